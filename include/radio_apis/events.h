@@ -1,0 +1,136 @@
+/// Events that the modem raises by itself, and how to receive them.
+///
+/// Two things are needed: the modem must be told to send an indication (radioRegisterVsEvent,
+/// radioRegisterRadioEvent), and somebody must listen for the event it becomes (registerRadioEvent).
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+
+/// The events. 401 to 499 come from the vendor client, 10000 to 10999 from the standard client.
+enum RADIO_EVENT_TYPE : int32_t {
+    RADIO_EVENT_NONE = 0,
+    RADIO_EVENT_NEC_IND = 403,
+    RADIO_EVENT_VEYRA_CELL_INFO_IND = 409,
+    RADIO_EVENT_VEYRA_EVENT_IND = 410,
+    RADIO_EVENT_SIDO_ISSUE_IND = 414,
+    RADIO_EVENT_TEST_IND = 419,
+    RADIO_EVENT_QOS_PERIOD_REPORT_IND = 420,
+    RADIO_EVENT_QOS_EVENT_REPORT_IND = 421,
+    RADIO_EVENT_MCC_CHANGED_IND = 423,
+    RADIO_EVENT_HST_MODE_IND = 424,
+    RADIO_EVENT_SERVING_CELL_INFO_IND = 425,
+    RADIO_EVENT_HYPER_UPLINK_STATE_IND = 426,
+    RADIO_EVENT_ATOM_DATA_IND = 427,
+    RADIO_EVENT_IMS_RTP_CONTROL_IND = 428,
+    RADIO_EVENT_OLOG_IND = 430,
+    RADIO_EVENT_RF_ICC_CLAT_INFO_IND = 433,
+    RADIO_EVENT_RF_ICC_TX_SHARING_IND = 434,
+    RADIO_EVENT_SINGLE_SIM_CHANGE_IND = 435,
+    RADIO_EVENT_SML_STATUS_IND = 436,
+    RADIO_EVENT_RLK_STATUS_IND = 437,
+    RADIO_EVENT_ALERT_EVENT_IND = 438,
+    RADIO_EVENT_IMS_AUDIO_QUALITY_IND = 439,
+    RADIO_EVENT_VODATA_IND = 440,
+    RADIO_EVENT_ALL_CELL_INFO_IND = 441,
+    RADIO_EVENT_CALL_STATE_CHANGE_IND = 442,
+    RADIO_EVENT_NETWORK_ACTION_RESULT_IND = 443,
+    RADIO_EVENT_SCENE_MODE_IND = 444,
+    RADIO_EVENT_SMART_NETWORK_SELECT_IND = 445,
+    RADIO_EVENT_RF_ICC_EVENT_IND = 446,
+    RADIO_EVENT_NW_ETX_POWER = 10001,
+    RADIO_EVENT_MSIM_SUB_MODE = 10002,
+    RADIO_EVENT_FREQ_HOPPING = 10003,
+    RADIO_EVENT_DATA_IFUP_PACKET_ROUTE = 10004,
+    RADIO_EVENT_CALL_RTP_SESSION_MLC = 10005
+};
+
+/// Receives one event, on the modem library's delivery thread.
+///
+/// @param event     which event
+/// @param userData  the pointer given at registration
+/// @param data      the event's record, valid during the call only
+/// @param length    the record's size in bytes
+using RadioEventCallback = void (*)(RADIO_EVENT_TYPE event, void* userData, void* data, int length);
+
+/// One switch of a subscription: `ind` is looked at only when `valid` is not 0.
+struct RadioEventSwitch {
+    uint8_t valid;
+    uint8_t ind; ///< 0: the modem need not send the indication; otherwise it shall
+};
+
+/// The switchable vendor indications. All others of the vendor client are switched on by the first
+/// subscription.
+struct RegVsEvtType {
+    RadioEventSwitch nec;              ///< RADIO_EVENT_NEC_IND
+    RadioEventSwitch test;             ///< RADIO_EVENT_TEST_IND
+    RadioEventSwitch servingCellInfo;  ///< RADIO_EVENT_SERVING_CELL_INFO_IND
+    RadioEventSwitch hyperUplinkState; ///< RADIO_EVENT_HYPER_UPLINK_STATE_IND
+    RadioEventSwitch reserved4;        ///< ignored
+    RadioEventSwitch reserved5;        ///< ignored
+    RadioEventSwitch mccChanged;       ///< RADIO_EVENT_MCC_CHANGED_IND
+    RadioEventSwitch reserved7;        ///< ignored
+};
+static_assert(sizeof(RegVsEvtType) == 16);
+
+/// The switchable standard indications. The packet route and RTP session indications are always switched on.
+struct RegRadioEvtType {
+    RadioEventSwitch nwEtxPower;  ///< RADIO_EVENT_NW_ETX_POWER
+    RadioEventSwitch msimSubMode; ///< RADIO_EVENT_MSIM_SUB_MODE
+};
+static_assert(sizeof(RegRadioEvtType) == 4);
+
+/// Record of RADIO_EVENT_NW_ETX_POWER.
+struct RadioNwEtxPower {
+    int32_t txPower; ///< transmit power in steps of 100, as derived from the modem's eighths
+};
+static_assert(sizeof(RadioNwEtxPower) == 4);
+
+/// Record of RADIO_EVENT_MSIM_SUB_MODE.
+struct RadioMsimSubMode {
+    int32_t subMode; ///< the modem's sub-mode plus 2
+    int32_t state;   ///< 2 when the modem reports the mode as active, otherwise 1
+};
+static_assert(sizeof(RadioMsimSubMode) == 8);
+
+/// Record of RADIO_EVENT_DATA_IFUP_PACKET_ROUTE: four values as the modem defines them.
+struct RadioDataIfupPacketRoute {
+    uint8_t values[4];
+};
+static_assert(sizeof(RadioDataIfupPacketRoute) == 4);
+
+/// Record of RADIO_EVENT_CALL_RTP_SESSION_MLC.
+struct RadioCallRtpSessionMlc {
+    int32_t id;    ///< the call's identifier
+    int32_t event; ///< the modem's event number
+};
+static_assert(sizeof(RadioCallRtpSessionMlc) == 8);
+
+extern "C" {
+
+/// Listens for one event of the calling thread's instance. The registration ends with
+/// radioApisReleaseService.
+///
+/// @param event     401 to 499 or 10000 to 10999
+/// @param userData  handed to each call of `callback`
+/// @param callback  called once per event; it may register further listeners
+/// @return 0 when registered, also when the same event, user data and callback were registered before (the
+/// callback is
+///         then still called once per event); 1 for any other event or when the instance is not initialised
+RADIO_API int registerRadioEvent(RADIO_EVENT_TYPE event, void* userData, RadioEventCallback callback);
+
+/// Switches vendor indications of the calling thread's instance on and off.
+///
+/// @param switches  what to switch; a switch that already has the wanted state does nothing
+/// @param userData  not used
+/// @param callback  never called: the return value is the only answer
+/// @return 0 when every subscription succeeded, otherwise 1 (also when the instance is not initialised)
+RADIO_API int radioRegisterVsEvent(RegVsEvtType switches, void* userData, RadioRequestCallback callback);
+
+/// Switches standard indications of the calling thread's instance on and off; otherwise as
+/// radioRegisterVsEvent.
+RADIO_API int radioRegisterRadioEvent(RegRadioEvtType switches, void* userData,
+                                      RadioRequestCallback callback);
+
+} // extern "C"

@@ -1,0 +1,41 @@
+/// Non-volatile items of the modem.
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+
+inline constexpr unsigned kRadioMaxNvBytes = 20480;
+
+/// Result of radioReadNv.
+struct RadioNvItem {
+    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
+    uint16_t dataLen; ///< number of bytes in `data`
+    uint8_t data[kRadioMaxNvBytes];
+};
+
+extern "C" {
+
+/// Reads one item.
+///
+/// @param id        the item's number
+/// @param index     which of its records
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.nvItemData`, whose `failure` tells of the
+/// modem's
+///                  failure
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioReadNv(int id, signed char index, void* userData, RadioRequestCallback callback);
+
+/// Writes one item.
+///
+/// @param id        the item's number
+/// @param index     which of its records
+/// @param data      the new contents, copied before this returns; not null
+/// @param dataLen   their number, at most 20480 bytes
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.nvWrite`, whose `failure` tells of the
+/// modem's failure
+/// @return 0 when handed to the modem; 11 for a null `data` or too many bytes; 1 when refused otherwise
+RADIO_API int radioWriteNv(int id, signed char index, const unsigned char* data, unsigned int dataLen,
+                           void* userData, RadioRequestCallback callback);
+
+} // extern "C"

@@ -1,0 +1,23 @@
+/// Everything that libradioapis.so offers.
+///
+/// A thread chooses its modem instance with radioApisInit and then sends requests. Every request function
+///
+///   - takes its arguments, then a user data pointer, then a callback, which must not be null;
+///   - copies what it needs from its arguments before it returns;
+///   - returns 0 when the request was handed to the modem - the callback is then called exactly once, on the
+///   modem
+///     library's delivery thread - and another RADIO_APIS_RESULT when it was refused - the callback is then
+///     never called. Without an initialised instance that is RADIO_APIS_FAILURE.
+///
+/// Any function may be called from any thread, and from within a callback.
+#pragma once
+
+#include "radio_apis/cell_info.h"
+#include "radio_apis/device_state.h"
+#include "radio_apis/events.h"
+#include "radio_apis/lifecycle.h"
+#include "radio_apis/nv.h"
+#include "radio_apis/result.h"
+#include "radio_apis/results.h"
+#include "radio_apis/sar.h"
+#include "radio_apis/service_mode.h"

@@ -1,0 +1,41 @@
+/// Result codes, service states and the callbacks through which the library answers.
+#pragma once
+
+#include <cstdint>
+
+#define RADIO_API __attribute__((visibility("default")))
+
+struct RadioApisResultType;
+
+/// What became of a request. 0 is success, every other value a failure.
+enum RADIO_APIS_RESULT : int32_t {
+    RADIO_APIS_SUCCESS = 0,           ///< carried out; the record holds the result
+    RADIO_APIS_FAILURE = 1,           ///< not sent, refused, or failed in the modem without a closer reason
+    RADIO_APIS_NOT_SUPPORTED = 2,     ///< an argument's value is not supported; modem results 105 and 106
+    RADIO_APIS_MODEM_RESULT_31 = 10,  ///< modem result 31
+    RADIO_APIS_INVALID_PARAMETER = 11 ///< an argument is missing or out of its range; modem result 21
+};
+
+/// Which service a call or a report is about. The library knows one; functions that take a type ignore it.
+enum RADIO_APIS_SERVICE_TYPE : int32_t { RADIO_APIS_SERVICE_MODEM = 11 };
+
+/// Whether the modem's service can be reached.
+enum RAPIS_CONNECT_STATE : int32_t { RAPIS_CONNECTED = 0, RAPIS_DISCONNECTED = 1 };
+
+/// The modem instance (SIM slot): 0, 1 or 2.
+using RADIO_SUBS_ID_TYPE = uint32_t;
+
+/// Answers one request, exactly once, on the modem library's delivery thread - possibly before the request
+/// function returns to its caller.
+///
+/// @param userData  the pointer given with the request, never dereferenced by the library
+/// @param result    RADIO_APIS_SUCCESS or why the request failed
+/// @param record    the result, valid during the call only: copy what is needed later. Null when the modem
+/// answered
+///                  a request with a failure; not null, and zero except for what the answer carried,
+///                  otherwise
+using RadioRequestCallback = void (*)(void* userData, RADIO_APIS_RESULT result, RadioApisResultType* record);
+
+/// Reports a change of the modem service, on the modem status library's thread.
+using RadioServiceCallback = void (*)(RADIO_APIS_SERVICE_TYPE service, RAPIS_CONNECT_STATE state,
+                                      void* userData);

@@ -1,0 +1,43 @@
+#include "host/link_status.h"
+
+#include <mutex>
+#include <utility>
+
+namespace host {
+namespace {
+
+struct Status {
+    std::mutex mutex; ///< held while the observer runs, so that it sees the states in their order
+    LinkState state = LinkState::Unknown;
+    LinkObserver observer;
+};
+
+/// Never destroyed: the delivery thread may report after main() has returned.
+Status& status()
+{
+    static Status& instance = *new Status;
+    return instance;
+}
+
+} // namespace
+
+void publishLinkState(LinkState state)
+{
+    Status& link = status();
+    const std::lock_guard lock(link.mutex);
+    if (std::exchange(link.state, state) != state && link.observer) {
+        link.observer(state);
+    }
+}
+
+void observeLinkState(LinkObserver observer)
+{
+    Status& link = status();
+    const std::lock_guard lock(link.mutex);
+    link.observer = std::move(observer);
+    if (link.observer && link.state != LinkState::Unknown) {
+        link.observer(link.state);
+    }
+}
+
+} // namespace host

@@ -1,0 +1,204 @@
+#include "android/log.h"
+#include "host/log_sink.h"
+#include "mindroid/log.h"
+#include "zor/log.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+
+namespace {
+
+constexpr int kEverything = 0;
+constexpr int kNothing = 100;
+
+/// Lines below this priority go nowhere. It starts with everything, which leads the first line to the
+/// environment.
+constinit std::atomic<int> gThreshold{kEverything};
+
+struct Destination {
+    std::mutex mutex; ///< held while the sink runs
+    host::LogSink sink;
+};
+
+/// Never destroyed: threads of the host's libraries may log after main() has returned.
+Destination& destination()
+{
+    static Destination& instance = *new Destination;
+    return instance;
+}
+
+int thresholdOfEnvironment()
+{
+    static const int threshold = [] {
+        const char* text = std::getenv("RADIO_LOG");
+        const std::string_view level = text != nullptr ? text : "";
+        if (level == "debug") {
+            return int{ANDROID_LOG_DEBUG};
+        }
+        if (level == "error") {
+            return int{ANDROID_LOG_ERROR};
+        }
+        return level == "off" ? kNothing : int{ANDROID_LOG_WARN};
+    }();
+    return threshold;
+}
+
+char letterOf(int priority)
+{
+    if (priority >= ANDROID_LOG_ERROR) {
+        return 'E';
+    }
+    if (priority >= ANDROID_LOG_WARN) {
+        return 'W';
+    }
+    return priority > ANDROID_LOG_DEBUG ? 'I' : 'D';
+}
+
+std::string format(const char* fmt, va_list arguments)
+{
+    va_list again;
+    va_copy(again, arguments);
+    char shortText[512];
+    const int length = std::vsnprintf(shortText, sizeof shortText, fmt, arguments);
+    std::string text(shortText, std::min(sizeof shortText - 1, static_cast<size_t>(std::max(length, 0))));
+    if (length >= static_cast<int>(sizeof shortText)) {
+        text.resize(static_cast<size_t>(length));
+        std::vsnprintf(text.data(), text.size() + 1, fmt, again);
+    }
+    va_end(again);
+    return text;
+}
+
+/// One write for the whole line, so that lines of several threads don't mix. Line ends that came with the
+/// modem's text would make two lines of one.
+void writeLine(const host::LogLine& line)
+{
+    std::string text{letterOf(line.priority), ' '};
+    if (!line.tag.empty()) {
+        text += line.tag + ": ";
+    }
+    text += line.text;
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+    text += '\n';
+    [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, text.data(), text.size());
+}
+
+int logLine(int priority, const char* tag, const char* fmt, va_list arguments) noexcept
+{
+    try {
+        const host::LogLine line{priority, tag != nullptr ? tag : "", format(fmt, arguments)};
+        Destination& log = destination();
+        const std::lock_guard lock(log.mutex);
+        if (log.sink) {
+            log.sink(line);
+        } else {
+            gThreshold.store(thresholdOfEnvironment(), std::memory_order_relaxed);
+            if (priority >= thresholdOfEnvironment()) {
+                writeLine(line);
+            }
+        }
+        return static_cast<int>(line.text.size());
+    } catch (const std::exception&) {
+        return 0; // no memory for the line: nobody could be told
+    }
+}
+
+bool isWanted(int priority)
+{
+    return priority >= gThreshold.load(std::memory_order_relaxed);
+}
+
+} // namespace
+
+namespace host {
+
+void setLogSink(LogSink sink)
+{
+    Destination& log = destination();
+    const std::lock_guard lock(log.mutex);
+    log.sink = std::move(sink);
+    gThreshold.store(kEverything, std::memory_order_relaxed);
+}
+
+} // namespace host
+
+// The check comes first and is all that a line costs which nobody wants: requests log on their way.
+
+int zorLogD(const char* tag, const char* fmt, ...)
+{
+    if (!isWanted(ANDROID_LOG_DEBUG)) {
+        return 0;
+    }
+    va_list arguments;
+    va_start(arguments, fmt);
+    const int length = logLine(ANDROID_LOG_DEBUG, tag, fmt, arguments);
+    va_end(arguments);
+    return length;
+}
+
+int zorLogW(const char* tag, const char* fmt, ...)
+{
+    if (!isWanted(ANDROID_LOG_WARN)) {
+        return 0;
+    }
+    va_list arguments;
+    va_start(arguments, fmt);
+    const int length = logLine(ANDROID_LOG_WARN, tag, fmt, arguments);
+    va_end(arguments);
+    return length;
+}
+
+int zorLogE(const char* tag, const char* fmt, ...)
+{
+    if (!isWanted(ANDROID_LOG_ERROR)) {
+        return 0;
+    }
+    va_list arguments;
+    va_start(arguments, fmt);
+    const int length = logLine(ANDROID_LOG_ERROR, tag, fmt, arguments);
+    va_end(arguments);
+    return length;
+}
+
+int __android_log_print(int prio, const char* tag, const char* fmt, ...)
+{
+    if (!isWanted(prio)) {
+        return 0;
+    }
+    va_list arguments;
+    va_start(arguments, fmt);
+    const int length = logLine(prio, tag, fmt, arguments);
+    va_end(arguments);
+    return length;
+}
+
+int mindroid::Log::d(const char* tag, const char* fmt, ...)
+{
+    if (!isWanted(ANDROID_LOG_DEBUG)) {
+        return 0;
+    }
+    va_list arguments;
+    va_start(arguments, fmt);
+    const int length = logLine(ANDROID_LOG_DEBUG, tag, fmt, arguments);
+    va_end(arguments);
+    return length;
+}
+
+int mindroid::Log::e(const char* tag, const char* fmt, ...)
+{
+    if (!isWanted(ANDROID_LOG_ERROR)) {
+        return 0;
+    }
+    va_list arguments;
+    va_start(arguments, fmt);
+    const int length = logLine(ANDROID_LOG_ERROR, tag, fmt, arguments);
+    va_end(arguments);
+    return length;
+}

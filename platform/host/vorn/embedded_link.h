@@ -1,0 +1,32 @@
+/// The simulated modem in this process, living from the transport's delivery thread.
+#pragma once
+
+#include "link.h"
+#include "sim/modem.h"
+
+namespace host {
+
+class EmbeddedLink : public Link, private sim::Output {
+public:
+    EmbeddedLink(sim::Scenario scenario, LinkEvents& events)
+        : mEvents(events), mModem(std::move(scenario), *this)
+    {}
+
+    void open() override { mIsOpen = true; }
+    void close() override;
+    void send(const vorn_msg_t& request) override;
+    Clock::TimePoint nextDeadline() const override;
+    void advance(Clock::TimePoint now) override { mModem.advance(now); }
+    std::optional<std::string> control(const std::string& command) override;
+
+private:
+    void answer(sim::ClientId client, sim::Message message) override;
+    void indicate(sim::Message message) override;
+    void disconnect(std::chrono::milliseconds downFor) override;
+
+    LinkEvents& mEvents;
+    bool mIsOpen = false;
+    sim::Modem mModem;
+};
+
+} // namespace host

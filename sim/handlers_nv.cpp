@@ -1,0 +1,32 @@
+// The modem's non-volatile items.
+
+#include "handlers.h"
+
+namespace sim {
+namespace {
+
+NvKey nvKey(const Request& request)
+{
+    return {request.fields.number<int32_t>(256), request.fields.number<int32_t>(257)};
+}
+
+} // namespace
+
+Answer readNv(Slot& slot, const Request& request)
+{
+    const auto item = slot.nv.find(nvKey(request));
+    if (item == slot.nv.end()) {
+        return {ModemResult::Failure, {}};
+    }
+    Answer answer;
+    answer.fields.set(0x8100, item->second);
+    return answer;
+}
+
+Answer writeNv(Slot& slot, const Request& request)
+{
+    slot.nv[nvKey(request)] = request.fields.bytes(0x8102);
+    return {};
+}
+
+} // namespace sim

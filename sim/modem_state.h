@@ -1,0 +1,69 @@
+/// The inside of the modem.
+#pragma once
+
+#include "handlers.h"
+#include "scenario_data.h"
+#include "sim/modem.h"
+
+#include <map>
+#include <optional>
+#include <random>
+
+namespace sim {
+
+class Modem::State {
+public:
+    State(const Scenario& scenario, Output& output);
+
+    void receive(ClientId client, const vorn_msg_t& request, TimePoint now);
+    std::optional<TimePoint> nextDeadline() const;
+    void advance(TimePoint now);
+    void forget(ClientId client);
+
+    nlohmann::json control(const nlohmann::json& command, TimePoint now);
+
+private:
+    static constexpr std::chrono::milliseconds kRestartTime{3'000};
+
+    struct DueAnswer {
+        ClientId client;
+        vorn_msg_hdr_t header;
+        Fields fields;
+    };
+
+    /// Puts an answer on its way, or what a fault makes of it.
+    void send(DueAnswer due, const std::optional<Fault>& fault, TimePoint now);
+    void deliver(const DueAnswer& due);
+    void indicate(const Indication& indication);
+
+    void load(ScenarioData scenario);
+    void disconnect(std::chrono::milliseconds downFor);
+
+    /// Drops the links; the slots are as the scenario has them again, except for their NV items.
+    void restart(std::chrono::milliseconds downFor);
+
+    /// What control() can be told to do. Each reads its arguments and adds to the answer.
+    struct ControlCommand {
+        const char* name;
+        void (State::*run)(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
+    };
+    static const ControlCommand kControlCommands[];
+    void controlState(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
+    void controlFaultAdd(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
+    void controlFaultClear(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
+    void controlIndicate(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
+    void controlRestart(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
+    void controlLoad(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
+
+    Output& mOutput;
+    std::array<Slot, kSlots> mInitialSlots;
+    std::array<Slot, kSlots> mSlots;
+    FaultInjector mFaults{{}};
+    std::mt19937 mRandom;
+    std::vector<TimedIndication> mTimeline;
+    size_t mNextIndication = 0;
+    std::optional<TimePoint> mStart; ///< of the timeline; not before the modem is told the time
+    std::multimap<TimePoint, DueAnswer> mDue;
+};
+
+} // namespace sim

@@ -1,0 +1,121 @@
+#include "sim/scenario.h"
+
+#include "embedded.h"
+#include "scenario_data.h"
+
+#include <algorithm>
+#include <fstream>
+#include <sstream>
+
+namespace sim {
+namespace {
+
+using nlohmann::json;
+
+constexpr size_t kMaxListed = 10'000;
+constexpr uint32_t kMaxTime = 24 * 60 * 60 * 1000;
+
+const json& builtInJson()
+{
+    static const json parsed = json::parse(embedded::defaultScenario);
+    return parsed;
+}
+
+/// The built-in scenario with the changes of another laid over it: objects member by member, slots one by
+/// one, every other list as a whole. A null removes what is built in.
+json laidOverBuiltIn(const json& changes)
+{
+    json merged = builtInJson();
+    json others = changes;
+    const auto slots = others.find("slots");
+    if (slots != others.end() && slots->is_array() && slots->size() <= merged["slots"].size()) {
+        for (size_t i = 0; i < slots->size(); ++i) {
+            merged["slots"][i].merge_patch((*slots)[i]);
+        }
+        others.erase(slots);
+    }
+    merged.merge_patch(others);
+    return merged;
+}
+
+} // namespace
+
+Indication indicationFromJson(JsonNode& node)
+{
+    const JsonNode message = node.member("message");
+    Indication indication;
+    indication.spec = Protocol::instance().find(message.text());
+    if (indication.spec == nullptr || indication.spec->kind != MessageKind::Indication) {
+        message.fail("unknown indication");
+    }
+    indication.slot = node.member("slot").number<int>(0, kSlots - 1);
+    indication.fields = fieldsFromJson(node.member("fields"), indication.spec->response);
+    return indication;
+}
+
+ScenarioData readScenario(const json& scenarioJson)
+{
+    ScenarioData scenario;
+    JsonNode root(scenarioJson, "");
+    scenario.seed = root.member("seed").number<uint32_t>();
+
+    std::vector<int32_t> trays;
+    for (const JsonNode& tray : root.member("simTrays").items(kSlots)) {
+        trays.push_back(tray.number<int32_t>());
+    }
+    const auto slots = root.member("slots").items(kSlots);
+    if (slots.size() != kSlots) {
+        root.member("slots").fail("must have " + std::to_string(kSlots) + " entries");
+    }
+    for (int i = 0; i < kSlots; ++i) {
+        Slot& slot = scenario.slots.at(static_cast<size_t>(i));
+        slot = slotFromJson(slots.at(static_cast<size_t>(i)), i);
+        slot.simTrays = trays;
+    }
+    for (const JsonNode& fault : root.member("faults").items(kMaxListed)) {
+        scenario.faults.push_back(faultFromJson(fault));
+    }
+    for (JsonNode entry : root.member("timeline").items(kMaxListed)) {
+        TimedIndication timed;
+        timed.at = std::chrono::milliseconds(entry.member("at").number<uint32_t>(0, kMaxTime));
+        timed.indication = indicationFromJson(entry);
+        entry.finish();
+        scenario.timeline.push_back(std::move(timed));
+    }
+    std::ranges::stable_sort(scenario.timeline, {}, &TimedIndication::at);
+    root.finish();
+    return scenario;
+}
+
+Scenario Scenario::builtIn()
+{
+    return Scenario(builtInJson());
+}
+
+Scenario Scenario::fromJson(const nlohmann::json& json)
+{
+    if (!json.is_object()) {
+        throw ScenarioError("/: must be an object");
+    }
+    auto merged = laidOverBuiltIn(json);
+    readScenario(merged);
+    return Scenario(std::move(merged));
+}
+
+Scenario Scenario::fromFile(const std::filesystem::path& file)
+{
+    std::ifstream stream(file);
+    std::ostringstream text;
+    if (!stream || !(text << stream.rdbuf())) {
+        throw ScenarioError(file.string() + ": can't be read");
+    }
+    try {
+        return fromJson(nlohmann::json::parse(text.str()));
+    } catch (const nlohmann::json::exception& error) {
+        throw ScenarioError(file.string() + ": " + error.what());
+    } catch (const ScenarioError& error) {
+        throw ScenarioError(file.string() + ": " + error.what());
+    }
+}
+
+} // namespace sim

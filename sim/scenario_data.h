@@ -1,0 +1,38 @@
+/// A scenario taken apart.
+#pragma once
+
+#include "fault.h"
+#include "slot.h"
+
+#include <array>
+#include <chrono>
+#include <vector>
+
+namespace sim {
+
+struct Indication {
+    const MessageSpec* spec = nullptr;
+    int slot = 0;
+    Fields fields;
+};
+
+/// {"message": NAME or ID, "slot": N, "fields": {NAME: VALUE...}}; reads these members only. Throws
+/// ScenarioError.
+Indication indicationFromJson(JsonNode& node);
+
+struct TimedIndication {
+    std::chrono::milliseconds at{0}; ///< after the modem's start
+    Indication indication;
+};
+
+struct ScenarioData {
+    uint32_t seed = 0;
+    std::array<Slot, kSlots> slots;
+    std::vector<Fault> faults;
+    std::vector<TimedIndication> timeline; ///< in order of time
+};
+
+/// Throws ScenarioError.
+ScenarioData readScenario(const nlohmann::json& json);
+
+} // namespace sim

@@ -1,0 +1,129 @@
+#include "slot.h"
+
+#include "at_interpreter.h"
+
+#include <algorithm>
+
+namespace sim {
+namespace {
+
+constexpr size_t kMaxNeighbours = 128;
+constexpr size_t kMaxListed = 4096;
+
+SimCard cardFromJson(JsonNode node)
+{
+    SimCard card;
+    card.present = node.member("present").flag();
+    const JsonNode imsi = node.member("imsi");
+    card.imsi = imsi.text(15);
+    if (!std::ranges::all_of(card.imsi, [](char c) { return c >= '0' && c <= '9'; })) {
+        imsi.fail("must be decimal digits");
+    }
+    node.finish();
+    return card;
+}
+
+std::map<NvKey, Bytes> nvFromJson(const JsonNode& node)
+{
+    std::map<NvKey, Bytes> items;
+    for (JsonNode item : node.items(kMaxListed)) {
+        const NvKey key{item.member("id").number<int32_t>(), item.member("index").number<int8_t>()};
+        items[key] = item.member("data").hexBytes(0, kMaxNvLength);
+        item.finish();
+    }
+    return items;
+}
+
+/// Settings of a scenario are requests that are carried out before anything else.
+void applySettings(const JsonNode& node, StoredSettings& settings)
+{
+    for (JsonNode item : node.items(kMaxListed)) {
+        const JsonNode message = item.member("message");
+        const MessageSpec* spec = Protocol::instance().find(message.text());
+        if (spec == nullptr || spec->kind != MessageKind::Request) {
+            message.fail("unknown request");
+        }
+        settings.store(*spec, fieldsFromJson(item.member("fields"), spec->request));
+        item.finish();
+    }
+}
+
+void applyAtCommands(const JsonNode& node, Slot& slot)
+{
+    for (const JsonNode& command : node.items(kMaxListed)) {
+        if (!executeAt(slot, command.text()).accepted) {
+            command.fail("the modem refuses this command");
+        }
+    }
+}
+
+} // namespace
+
+bool Slot::radioOn() const
+{
+    return atValue(*this, "+CFUN") == "1";
+}
+
+const Cell* Slot::camped() const
+{
+    return serving && radioOn() ? &*serving : nullptr;
+}
+
+const Cell* Slot::lteCell() const
+{
+    const Cell* cell = camped();
+    if (cell != nullptr && cell->rat != Rat::Lte) {
+        return lteAnchor ? &*lteAnchor : nullptr;
+    }
+    return cell;
+}
+
+Slot slotFromJson(JsonNode node, int number)
+{
+    Slot slot;
+    slot.number = number;
+    slot.plmn = plmnFromJson(node.member("operator"));
+    slot.card = cardFromJson(node.member("sim"));
+    if (const auto serving = node.optionalMember("serving")) {
+        slot.serving = servingCellFromJson(*serving);
+    }
+    if (const auto anchor = node.optionalMember("lteAnchor")) {
+        slot.lteAnchor = servingCellFromJson(*anchor);
+        if (slot.lteAnchor->rat != Rat::Lte) {
+            anchor->fail("must be an LTE cell");
+        }
+    }
+    for (const JsonNode& cell : node.member("neighbours").items(kMaxNeighbours)) {
+        slot.neighbours.push_back(neighbourFromJson(cell));
+    }
+    slot.nv = nvFromJson(node.member("nv"));
+    applySettings(node.member("settings"), slot.settings);
+    applyAtCommands(node.member("at"), slot);
+    node.finish();
+    return slot;
+}
+
+nlohmann::json slotToJson(const Slot& slot)
+{
+    nlohmann::json neighbours = nlohmann::json::array();
+    for (const Cell& cell : slot.neighbours) {
+        neighbours.push_back(cellToJson(cell));
+    }
+    nlohmann::json nv = nlohmann::json::array();
+    for (const auto& [key, data] : slot.nv) {
+        nv.push_back({{"id", key.first}, {"index", key.second}, {"length", data.size()}});
+    }
+    const auto cell = [](const Cell* shown) {
+        return shown != nullptr ? cellToJson(*shown) : nlohmann::json();
+    };
+    return {{"radioOn", slot.radioOn()},
+            {"serving", cell(slot.camped())},
+            {"lteCell", cell(slot.lteCell())},
+            {"neighbours", neighbours},
+            {"simPresent", slot.card.present},
+            {"nv", nv},
+            {"at", slot.at},
+            {"settings", slot.settings.toJson()}};
+}
+
+} // namespace sim

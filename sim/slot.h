@@ -1,0 +1,59 @@
+/// The state of one slot of the modem: what is in it, where it camps, what was set.
+#pragma once
+
+#include "cell.h"
+#include "stored_settings.h"
+
+#include <array>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace sim {
+
+constexpr int kSlots = 3;
+
+struct SimCard {
+    bool present = false;
+    std::string imsi;
+};
+
+using NvKey = std::pair<int32_t, int32_t>; ///< item and index
+constexpr size_t kMaxNvLength = 20480;
+
+/// The parameters last set by AT commands, by command name; one that was never set has the value of the
+/// command table.
+using AtValues = std::map<std::string, std::vector<std::string>, std::less<>>;
+
+struct Slot {
+    int number = 0;
+    Plmn plmn;
+    SimCard card;
+    std::vector<int32_t> simTrays; ///< of the whole device
+    std::optional<Cell> serving;
+    std::optional<Cell> lteAnchor; ///< when NR is served next to LTE
+    std::vector<Cell> neighbours;
+    std::map<NvKey, Bytes> nv;
+    StoredSettings settings;
+    AtValues at;
+    std::map<uint16_t, uint32_t> indicationsSent; ///< how often, by message id
+    uint32_t metricsReadings = 0;
+
+    bool radioOn() const;
+
+    /// The cell it camps on; null without service.
+    const Cell* camped() const;
+
+    /// The LTE cell among those it uses; null when there is none.
+    const Cell* lteCell() const;
+};
+
+/// Slot `number` of a scenario. Throws ScenarioError.
+Slot slotFromJson(JsonNode node, int number);
+
+/// What `control` shows of a slot.
+nlohmann::json slotToJson(const Slot& slot);
+
+} // namespace sim

@@ -1,0 +1,24 @@
+#include "api/registry.h"
+
+thread_local uint32_t tlssubid = 0;
+ClientRegistry registry;
+
+VornChannelClient& ClientRegistry::channel()
+{
+    if (channelClient == nullptr) {
+        channelClient = new VornChannelClient(false);
+    }
+    return *channelClient;
+}
+
+int refuseUninitialised(const char* entryPoint)
+{
+    zorLogE(kApiTag, "%s : error : radio api does not init yet for instance %d", entryPoint,
+            static_cast<int>(tlssubid));
+    return RADIO_APIS_FAILURE;
+}
+
+void logInstance(const char* entryPoint)
+{
+    zorLogD(kApiTag, "%s : %s tlssubid %d", entryPoint, entryPoint, static_cast<int>(tlssubid));
+}

@@ -1,0 +1,43 @@
+/// The client for AT commands, which travel to the modem as text inside messages.
+#pragma once
+
+#include "at/at_callbacks.h"
+#include "channel/vorn_client.h"
+#include "mindroid/handler.h"
+
+/// One per instance, held by strong pointers: a command on its way keeps its client.
+class VornAtClient : public VornClient, public mindroid::Handler {
+public:
+    VornAtClient(bool flag, int slotId);
+
+    /// Sends a command text as it stands; its answer is parsed into fields for `rsp`. `cb` gets the
+    /// interpreter's code and the record; RADIO_APIS_FAILURE and a zeroed record when the answer had no text;
+    /// the modem's failure and no record when it refused the message.
+    int sendAtCommand(const char* cmd, void* userData, RadioRequestCallback cb,
+                      const mindroid::sp<AtResponseCallback>& rsp);
+
+    /// The same for a callback that is shared, and may hold no function. A refused message counts as no text.
+    int sendAtCommand(const char* cmd, void* userData, const mindroid::sp<RadioApiCallback>& cb,
+                      const mindroid::sp<AtResponseCallback>& rsp);
+
+    /// Nobody waits for a result: only `rsp` is called, without a record, and without a parcel when there was
+    /// no text.
+    int sendAtCommand(const char* cmd, void* userData, const mindroid::sp<AtResponseCallback>& rsp);
+
+    /// As the first, with the answer's data as one string.
+    int sendAtCommandRspRawStr(const char* cmd, void* userData, RadioRequestCallback cb,
+                               const mindroid::sp<AtResponseCallback>& rsp);
+
+    /// Interpreters for commands whose answer carries no data: whether it was accepted, or success whatever
+    /// it says.
+    static RADIO_APIS_RESULT completeWithResultVoid(const mindroid::sp<mindroid::Parcel>& answer,
+                                                    RadioApisResultType* record);
+    static RADIO_APIS_RESULT completeWithoutResultCheck(const mindroid::sp<mindroid::Parcel>& answer,
+                                                        RadioApisResultType* record);
+
+    int getServiceMode(void* userData, RadioRequestCallback cb);
+
+private:
+    struct Command;
+    int sendCommand(const char* cmd, std::unique_ptr<Command> command);
+};

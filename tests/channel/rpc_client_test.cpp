@@ -1,0 +1,150 @@
+#include "channel/rpc_client.h"
+#include "support/log_capture.h"
+
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <thread>
+
+using namespace test;
+using testing::ElementsAre;
+
+namespace {
+
+std::vector<std::pair<char, void*>> calls;
+
+void first(RADIO_EVENT_TYPE, void* user, void*, int)
+{
+    calls.emplace_back('1', user);
+}
+void second(RADIO_EVENT_TYPE, void* user, void*, int)
+{
+    calls.emplace_back('2', user);
+}
+
+void convert(void* indication, int, void* user, RadioEventCallback callback)
+{
+    callback(RADIO_EVENT_TEST_IND, user, indication, 0);
+}
+
+constexpr rpcEventHandlerMap kMap[] = {{1, RADIO_EVENT_TEST_IND, convert},
+                                       {2, RADIO_EVENT_NONE, convert},
+                                       {3, RADIO_EVENT_NEC_IND, nullptr},
+                                       {1, RADIO_EVENT_NEC_IND, nullptr},
+                                       {4, RADIO_EVENT_NEC_IND, convert}};
+
+struct TestClient : RpcClient {
+    TestClient() : RpcClient(true, 0, kMap, 5)
+    {
+        mLowestEvent = static_cast<RADIO_EVENT_TYPE>(401);
+        mHighestEvent = static_cast<RADIO_EVENT_TYPE>(500);
+    }
+};
+
+struct Listeners : testing::Test {
+    TestClient client;
+    LogCapture log;
+    int a = 0;
+    int b = 0;
+    void SetUp() override { calls.clear(); }
+};
+
+} // namespace
+
+TEST_F(Listeners, AreCalledInOrderOnceEach)
+{
+    EXPECT_EQ(client.registerRadioEvent(RADIO_EVENT_TEST_IND, &a, second), 0);
+    EXPECT_EQ(client.registerRadioEvent(RADIO_EVENT_TEST_IND, &a, first), 0);
+    EXPECT_EQ(client.registerRadioEvent(RADIO_EVENT_NEC_IND, &a, first), 0);
+    EXPECT_EQ(client.registerRadioEvent(RADIO_EVENT_TEST_IND, &a, second), 0);
+    EXPECT_TRUE(log.has("D RpcClient: registerRadioEvent already in list"));
+    EXPECT_EQ(client.registerRadioEvent(RADIO_EVENT_TEST_IND, &b, second), 0);
+    EXPECT_EQ(client.registerRadioEvent(RADIO_EVENT_TEST_IND, &b, nullptr), 0);
+    client.notifyEventForAllClient(1, nullptr, 0);
+    EXPECT_THAT(calls, ElementsAre(std::pair{'2', &a}, std::pair{'1', &a}, std::pair{'2', &b}));
+
+    calls.clear();
+    client.deregisterRadioEvent(RADIO_EVENT_TEST_IND, second); // the first of two, whatever its user data
+    client.deregisterRadioEvent(RADIO_EVENT_VODATA_IND, second);
+    client.notifyEventForAllClient(1, nullptr, 0);
+    EXPECT_THAT(calls, ElementsAre(std::pair{'1', &a}, std::pair{'2', &b}));
+
+    calls.clear();
+    EXPECT_EQ(client.init(), 0);
+    client.notifyEventForAllClient(1, nullptr, 0);
+    EXPECT_THAT(calls, ElementsAre());
+}
+
+TEST_F(Listeners, HaveBounds)
+{
+    for (const int event : {400, 501, 0, -1, 10001}) {
+        EXPECT_EQ(client.registerRadioEvent(static_cast<RADIO_EVENT_TYPE>(event), &a, first), 1);
+        EXPECT_TRUE(log.has("E RpcClient: registerEvent error, invalid eventId " + std::to_string(event)));
+    }
+    for (const int event : {401, 500}) {
+        EXPECT_EQ(client.registerRadioEvent(static_cast<RADIO_EVENT_TYPE>(event), &a, first), 0);
+    }
+}
+
+TEST_F(Listeners, HearOnlyMappedIndications)
+{
+    client.registerRadioEvent(RADIO_EVENT_TEST_IND, &a, first);
+    client.registerRadioEvent(RADIO_EVENT_NEC_IND, &a, first);
+    log.clear();
+    client.notifyEventForAllClient(99, nullptr, 0); // not in the table
+    client.notifyEventForAllClient(3, nullptr, 0);  // without a handler
+    EXPECT_THAT(log.lines(), ElementsAre());
+    client.notifyEventForAllClient(2, nullptr, 0);
+    EXPECT_THAT(log.lines(),
+                ElementsAre("E RpcClient: notifyEventForAllClient : can not find the maped event"));
+    EXPECT_THAT(calls, ElementsAre());
+    EXPECT_EQ(client.rpcEventMap(1), RADIO_EVENT_TEST_IND); // the first of two rows
+    EXPECT_EQ(client.rpcEventMap(99), RADIO_EVENT_NONE);
+}
+
+TEST_F(Listeners, MayChangeWhileEventsFlow)
+{
+    static std::atomic<int> kept;
+    kept = 0;
+    const auto staying = [](RADIO_EVENT_TYPE, void* user, void*, int) {
+        ++kept;
+        static_cast<RpcClient*>(user)->registerRadioEvent(RADIO_EVENT_NEC_IND, user, first);
+        static_cast<RpcClient*>(user)->deregisterRadioEvent(RADIO_EVENT_NEC_IND, first);
+    };
+    client.registerRadioEvent(RADIO_EVENT_TEST_IND, &client, staying);
+    std::atomic<bool> done = false;
+    std::thread churn([&] {
+        const auto passing = [](RADIO_EVENT_TYPE, void*, void*, int) {};
+        while (!done) {
+            client.registerRadioEvent(RADIO_EVENT_TEST_IND, &a, passing);
+            client.deregisterRadioEvent(RADIO_EVENT_TEST_IND, passing);
+        }
+    });
+    constexpr int kEvents = 100000;
+    for (int i = 0; i < kEvents; ++i) {
+        client.notifyEventForAllClient(1, nullptr, 0);
+    }
+    done = true;
+    churn.join();
+    EXPECT_EQ(kept, kEvents);
+}
+
+TEST_F(Listeners, OfServicesHearTwoStatesOnly)
+{
+    static std::vector<int> states;
+    states.clear();
+    const auto listener = [](RADIO_APIS_SERVICE_TYPE service, RAPIS_CONNECT_STATE state, void* user) {
+        EXPECT_EQ(service, RADIO_APIS_SERVICE_MODEM);
+        states.push_back(state * 10 + *static_cast<int*>(user));
+    };
+    a = 1;
+    b = 2;
+    EXPECT_EQ(client.registerRadioApisEvent(&a, listener), 0);
+    EXPECT_EQ(client.registerRadioApisEvent(&b, listener), 0);
+    EXPECT_EQ(client.registerRadioApisEvent(&a, listener), 0);
+    EXPECT_TRUE(log.has("D RpcClient: registerRadioApisEvent already in list"));
+    for (const int state : {0, 2, 1, -1}) {
+        client.radioApiEventCall(RADIO_APIS_SERVICE_MODEM, static_cast<RAPIS_CONNECT_STATE>(state));
+    }
+    EXPECT_THAT(states, ElementsAre(1, 2, 11, 12));
+}

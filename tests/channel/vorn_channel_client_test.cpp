@@ -1,0 +1,135 @@
+#include "channel/vorn_channel_client.h"
+#include "host/device.h"
+#include "host/link_status.h"
+#include "support/device_root.h"
+#include "support/fake_modem.h"
+#include "support/log_capture.h"
+
+#include <gmock/gmock.h>
+
+#include <condition_variable>
+#include <mutex>
+
+using namespace test;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(ChannelClient, FindsTheDeviceOfItsPlatform)
+{
+    const std::string longDevice = "/dev/" + std::string(65, 'x');
+    const struct {
+        const char* file; ///< null: none
+        std::string device;
+    } cases[] = {
+        {nullptr, "/dev/ttyCVORN8"},
+        {"not xml", "/dev/ttyCVORN8"},
+        {"<vorn_device_config><platform name='board1' vorn_device='/dev/ttyX'/>", "/dev/ttyCVORN8"},
+        {"<other><platform name='board1' vorn_device='/dev/ttyX'/></other>", "/dev/ttyCVORN8"},
+        {"<vorn_device_config/>", "/dev/ttyCVORN8"},
+        {"<vorn_device_config><platform name='Board1' vorn_device='/dev/ttyX'/></vorn_device_config>",
+         "/dev/ttyCVORN8"},
+        {"<vorn_device_config><platform vorn_device='/dev/ttyX'/></vorn_device_config>", "/dev/ttyCVORN8"},
+        {"<!-- c --><vorn_device_config><x name='board1' vorn_device='/dev/no'/><platform name='board1'/>"
+         "<platform name='board2' vorn_device='/dev/no'/><platform name='board1' vorn_device='/dev/ttyX'/>"
+         "<platform name='board1' vorn_device='/dev/ttyY'/></vorn_device_config>",
+         "/dev/ttyX"},
+        {"<vorn_device_config><platform name='board1' vorn_device=''/></vorn_device_config>", ""},
+    };
+    for (const auto& row : cases) {
+        const DeviceRoot root;
+        root.write("default.prop", "ro.boot.hardware=board1\n");
+        if (row.file != nullptr) {
+            root.write("odm/etc/vorn_device_config.xml", row.file);
+        }
+        LogCapture log;
+        const VornChannelClient client(false);
+        EXPECT_TRUE(log.has("D VornChannelClient: mVornDeviceName is " + row.device)) << row.file;
+    }
+    const DeviceRoot root;
+    root.write("odm/etc/vorn_device_config.xml", "<vorn_device_config><platform name='b' vorn_device='" +
+                                                     longDevice + "'/></vorn_device_config>");
+    char device[VornChannelClient::kDeviceNameSize];
+    EXPECT_TRUE(VornChannelClient::parseVornDeviceName("b", device));
+    EXPECT_EQ(device, longDevice.substr(0, 63));
+    EXPECT_FALSE(VornChannelClient::parseVornDeviceName(nullptr, device));
+    EXPECT_FALSE(VornChannelClient::parseVornDeviceName("b", nullptr));
+}
+
+TEST(ChannelClient, OpensTheMessageLibraryOnce)
+{
+    host::setProperty("ro.vendor.zor_vorn_support", "1");
+    auto& modem = FakeModem::instance();
+    LogCapture log;
+    {
+        VornChannelClient client(false);
+        modem.initResult = -1;
+        EXPECT_EQ(client.init(), 1);
+        EXPECT_TRUE(log.has("E VornChannelClient: VornVsClient::init call vorn_init_debug error"));
+        modem.initResult = 0;
+        EXPECT_EQ(client.init(), 0);
+        EXPECT_EQ(client.deInit(), 0);
+        EXPECT_EQ(client.init(), 0);
+    }
+    EXPECT_THAT(modem.journal, ElementsAre("device /dev/ttyCVORN8", "init subsys-daemon",
+                                           "device /dev/ttyCVORN8", "init subsys-daemon", "reset", "deinit"));
+}
+
+TEST(ChannelClient, WantsItsSupportPropertyToBeExactlyOne)
+{
+    for (const std::string value : {"", "0", "true", "10", "1 ", " 1", "2"}) {
+        const DeviceRoot root;
+        root.write("default.prop", "ro.vendor.zor_vorn_support=" + value + "\n");
+        LogCapture log;
+        EXPECT_EQ(VornChannelClient(false).init(), 2) << value;
+        EXPECT_EQ(log.count("E VornChannelClient: VORN is not supportted, zor_vorn_support=" + value), 2)
+            << value;
+    }
+    EXPECT_EQ(VornChannelClient(false).init(), 2); // not set at all
+    EXPECT_THAT(FakeModem::instance().journal, IsEmpty());
+}
+
+namespace {
+
+/// Waits for reports of the status library's thread.
+struct States {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<int> seen;
+
+    static void onService(RADIO_APIS_SERVICE_TYPE service, RAPIS_CONNECT_STATE state, void* user)
+    {
+        auto& states = *static_cast<States*>(user);
+        const std::lock_guard lock(states.mutex);
+        states.seen.push_back(service * 10 + state);
+        states.changed.notify_all();
+    }
+    void waitFor(const std::vector<int>& expected)
+    {
+        std::unique_lock lock(mutex);
+        changed.wait_for(lock, std::chrono::seconds(30), [&] { return seen.size() >= expected.size(); });
+        EXPECT_EQ(seen, expected);
+    }
+};
+
+} // namespace
+
+TEST(ChannelClient, TellsServiceListenersOfTheModem)
+{
+    LogCapture log;
+    VornChannelClient client(false);
+    States one;
+    States two;
+    EXPECT_EQ(client.registerRadioApisEvent(&one, States::onService), 0);
+    EXPECT_EQ(client.registerRadioApisEvent(&two, States::onService), 0);
+    EXPECT_TRUE(log.has("D VornChannelClient: VornVsClient::VornVsClient : open libkst.so success"));
+    EXPECT_EQ(log.count("D VornChannelClient: registerRadioApisEvent kst register"), 1);
+    host::publishLinkState(host::LinkState::Up);
+    host::publishLinkState(host::LinkState::Lost);
+    one.waitFor({110, 111});
+    two.waitFor({110, 111});
+    md_status_event other{2};
+    mdStatusEventCb(&client, &other);
+    mdStatusEventCb(nullptr, nullptr);
+    EXPECT_TRUE(log.has("D VornChannelClient: VornChannelClient::mdStatusEventCb : mdStatusEvent 2"));
+    one.waitFor({110, 111});
+}

@@ -1,0 +1,98 @@
+#include "at_interpreter.h"
+#include "at_line.h"
+#include "modem_fixture.h"
+
+namespace sim::test {
+namespace {
+
+constexpr std::string_view kOk = "\r\nOK\r\n";
+constexpr std::string_view kError = "\r\nERROR\r\n";
+
+struct Row {
+    std::string_view command;
+    std::string_view answer;
+};
+
+void expectAnswers(Slot& slot, const std::vector<Row>& rows)
+{
+    for (const auto& row : rows) {
+        EXPECT_EQ(executeAt(slot, row.command).text, row.answer) << row.command;
+    }
+}
+
+std::array<Slot, kSlots> builtInSlots()
+{
+    return readScenario(Scenario::builtIn().json()).slots;
+}
+
+TEST(AtCommands, Answers)
+{
+    expectAnswers(builtInSlots()[0], {
+                                         {"AT", kOk},
+                                         {"AT\r\n", kOk},
+                                         {"at\r", kOk},
+                                         {"AT+CEMODE?", "\r\n+CEMODE: 2\r\n\r\nOK\r\n"},
+                                         {"AT+CEMODE=?", "\r\n+CEMODE: (0-3)\r\n\r\nOK\r\n"},
+                                         {"AT+CEMODE=1", kOk},
+                                         {"AT + CEMODE = 3\r", kOk},
+                                         {"at+cemode?\r\n", "\r\n+CEMODE: 3\r\n\r\nOK\r\n"},
+                                         {"AT+CEMODE=4", "\r\n+CME ERROR: 50\r\n"},
+                                         {"AT+CEMODE=", "\r\n+CME ERROR: 50\r\n"},
+                                         {"AT+CEMODE=1,1", "\r\n+CME ERROR: 50\r\n"},
+                                         {"AT+CEMODE=\"1\"", "\r\n+CME ERROR: 50\r\n"},
+                                         {"AT+CEMODE=99999999999999999999", "\r\n+CME ERROR: 50\r\n"},
+                                         {"AT+CEMODE", kError},
+                                         {"AT+CEMODE?", "\r\n+CEMODE: 3\r\n\r\nOK\r\n"},
+                                         {"AT+CFUN?", "\r\n+CFUN: 1\r\n\r\nOK\r\n"},
+                                         {"AT+CFUN=?", "\r\n+CFUN: (0,1,4),(0-1)\r\n\r\nOK\r\n"},
+                                         {"AT+CFUN=4", kOk},
+                                         {"AT+CFUN?", "\r\n+CFUN: 4\r\n\r\nOK\r\n"},
+                                         {"AT+CFUN=5", "\r\n+CME ERROR: 4\r\n"},
+                                         {"AT+CFUN=,1", "\r\n+CME ERROR: 50\r\n"},
+                                         {"AT+CMEE=2", kOk},
+                                         {"AT+CEMODE=4", "\r\n+CME ERROR: Incorrect parameters\r\n"},
+                                         {"AT+CMEE=0", kOk},
+                                         {"AT+CEMODE=4", kError},
+                                         {"AT+CIMI", "\r\n001010123456789\r\n\r\nOK\r\n"},
+                                         {"AT+CIMI=?", kOk},
+                                         {"AT+CIMI?", kError},
+                                         {"ATE1", kOk},
+                                         {"AT+CFUN?\r\n", "AT+CFUN?\r\r\n+CFUN: 4\r\n\r\nOK\r\n"},
+                                         {"ATE2", "ATE2\r\r\nERROR\r\n"},
+                                         {"ATE", "ATE\r\r\nOK\r\n"},
+                                         {"AT", kOk},
+                                     });
+}
+
+TEST(AtCommands, WithoutSimCard)
+{
+    expectAnswers(builtInSlots()[2], {{"AT+CIMI", "\r\n+CME ERROR: 10\r\n"}});
+}
+
+TEST(AtCommands, WrongGrammarIsAnError)
+{
+    for (const std::string command :
+         {"", "A", "+CFUN?", "ATX", "AT+", "AT+?", "AT+CFUN?1", "AT+CFUN=\"1", "AT+CFUN=1\"\"",
+          "AT+CFUN=\"1\"\"1\"", "AT\x01", "AT+UNKNOWN=1", "ATE-1"}) {
+        EXPECT_EQ(executeAt(builtInSlots()[0], command).text, kError) << command;
+    }
+    EXPECT_EQ(executeAt(builtInSlots()[0], "AT+CEMODE=" + std::string(5000, ' ') + "1").text, kError);
+}
+
+TEST(AtCommands, LinesAreTakenApart)
+{
+    const auto line = parseAt(*normalizeAt("at+EGMC=1, \"a, b\",,\"\" ,7\r\n"));
+    ASSERT_TRUE(line);
+    EXPECT_EQ(line->name, "+EGMC");
+    EXPECT_EQ(line->form, AtForm::Set);
+    std::vector<std::pair<std::string, bool>> parameters;
+    for (const auto& parameter : line->parameters) {
+        parameters.emplace_back(parameter.text, parameter.quoted);
+    }
+    const std::vector<std::pair<std::string, bool>> expected{
+        {"1", false}, {"a, b", true}, {"", false}, {"", true}, {"7", false}};
+    EXPECT_EQ(parameters, expected);
+}
+
+} // namespace
+} // namespace sim::test

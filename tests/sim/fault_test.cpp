@@ -1,0 +1,130 @@
+#include "modem_fixture.h"
+
+namespace sim::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
+using testing::SizeIs;
+
+class Faults : public ModemTest {
+protected:
+    void add(const std::string& fault)
+    {
+        EXPECT_EQ(control(R"({"command": "fault-add", "fault": )" + fault + "}"), ok);
+    }
+
+    const nlohmann::json ok = {{"ok", true}};
+    const FieldList sar{{256, i32(1)}, {257, i32(2)}};
+};
+
+TEST_F(Faults, StrikeWhatTheyMatch)
+{
+    add(R"({"match": {"message": "GetRRCStatus", "slot": 1}, "action": "result", "result": 105, "count": 1})");
+    add(R"({"match": {"at": "AT+CEMODE=*"}, "action": "result", "result": 31})");
+    EXPECT_THAT(ask(0x3825)[0], i32(0)) << "another slot";
+    EXPECT_THAT(ask(0x3813, {}, 2)[0], i32(0)) << "another message";
+    EXPECT_THAT(ask(0x3825, {}, 2), ElementsAre(Pair(0, i32(105))));
+    EXPECT_THAT(ask(0x3825, {}, 2)[0], i32(0)) << "once is enough";
+    EXPECT_THAT(ask(3, {{0x8100, text("AT+CEMODE?")}})[0], i32(0)) << "another command";
+    EXPECT_THAT(ask(3, {{0x8100, text("AT+CEMODE = 3\r\n")}}), ElementsAre(Pair(0, i32(31))));
+    EXPECT_THAT(ask(3, {{0x8100, text("AT+CEMODE?")}})[0x8100], text("\r\n+CEMODE: 2\r\n\r\nOK\r\n"))
+        << "a refused request changes nothing";
+}
+
+TEST_F(Faults, LoseAnswers)
+{
+    add(R"({"match": {"message": "0x3895"}, "action": "drop", "count": 1})");
+    send(0x3895, sar);
+    EXPECT_THAT(mAnswers, IsEmpty());
+    EXPECT_EQ(mModem->nextDeadline(), std::nullopt);
+}
+
+TEST_F(Faults, DelayAnswersAndKeepTheirOrder)
+{
+    add(R"({"match": {"message": "SetSarState"}, "action": "delay", "ms": 50, "count": 1})");
+    add(R"({"match": {"message": "GetRRCStatus"}, "action": "delay", "ms": 50, "count": 1})");
+    add(R"({"match": {"message": "SetSarState"}, "action": "late", "count": 1})");
+    send(0x3895, sar, 1, 1);
+    send(0x3825, {}, 1, 2);
+    send(0x3895, sar, 1, 3);
+    EXPECT_EQ(mModem->nextDeadline(), mNow + 50ms);
+    mModem->advance(mNow + 49ms);
+    EXPECT_THAT(mAnswers, IsEmpty());
+    mModem->advance(mNow + 50ms);
+    ASSERT_THAT(mAnswers, SizeIs(2));
+    EXPECT_EQ(mAnswers[0].header.tx_id, 1);
+    EXPECT_EQ(mAnswers[1].header.tx_id, 2);
+    EXPECT_EQ(mModem->nextDeadline(), mNow + 61s);
+
+    mModem->forget(kClient);
+    EXPECT_EQ(mModem->nextDeadline(), std::nullopt);
+}
+
+TEST_F(Faults, DoubleAnswersAndGiveThemAway)
+{
+    add(R"({"action": "duplicate", "count": 1})");
+    add(R"({"action": "wrong_transaction", "count": 1})");
+    send(0x3895, sar, 1, 1);
+    EXPECT_THAT(mAnswers, SizeIs(2));
+    EXPECT_EQ(mAnswers[0].fields, mAnswers[1].fields);
+    send(0x3895, sar, 1, 2);
+    EXPECT_EQ(mAnswers[2].header.tx_id, 0x8002);
+}
+
+TEST_F(Faults, DamageAnswersTheSameWayEveryTime)
+{
+    std::vector<std::map<uint16_t, Value>> runs[2];
+    for (auto& run : runs) {
+        start(
+            R"({"seed": 7, "faults": [{"action": "truncate", "count": 2}, {"action": "garble", "count": 2}]})");
+        for (const uint16_t id : std::initializer_list<uint16_t>{0x381F, 0x3895, 0x3821, 0x3895}) {
+            run.push_back(ask(id, id == 0x3895 ? sar : FieldList{}));
+        }
+    }
+    EXPECT_EQ(runs[0], runs[1]);
+    EXPECT_EQ(runs[0][0][0], i32(0)) << "the result of an answer with fields is spared";
+    EXPECT_LT(std::get<Bytes>(runs[0][0][256]).size(), 83U);
+    EXPECT_LT(std::get<Bytes>(runs[0][1][0]).size(), 4U);
+    EXPECT_NE(runs[0][2][256], ask(0x3821)[256]);
+    EXPECT_NE(runs[0][3][0], i32(0));
+}
+
+TEST_F(Faults, TakeTheLinkDown)
+{
+    add(R"({"match": {"message": "SetSarState"}, "action": "delay", "count": 1})");
+    add(R"({"match": {"message": "GetRRCStatus"}, "action": "disconnect", "ms": 20, "count": 1})");
+    add(R"({"match": {"message": "GetRRCStatus"}, "action": "restart", "ms": 30, "count": 1})");
+    ask(3, {{0x8100, text("AT+CFUN=0")}});
+    ask(51, {{256, i32(9)}, {257, i32(0)}, {0x8102, Bytes{1}}});
+    mAnswers.clear();
+
+    send(0x3895, sar);
+    send(0x3825);
+    EXPECT_THAT(mDisconnects, ElementsAre(20ms));
+    EXPECT_EQ(mModem->nextDeadline(), std::nullopt) << "what was under way is lost";
+    EXPECT_THAT(ask(3, {{0x8100, text("AT+CFUN?")}})[0x8100], text("\r\n+CFUN: 0\r\n\r\nOK\r\n"));
+
+    mAnswers.clear();
+    send(0x3825);
+    EXPECT_THAT(mDisconnects, ElementsAre(20ms, 30ms));
+    EXPECT_THAT(mAnswers, IsEmpty());
+    EXPECT_THAT(ask(3, {{0x8100, text("AT+CFUN?")}})[0x8100], text("\r\n+CFUN: 1\r\n\r\nOK\r\n"));
+    EXPECT_THAT(ask(53, {{256, i32(9)}, {257, i32(0)}})[0x8100], Value(Bytes{1})) << "NV items survive";
+
+    EXPECT_THAT(ask(3, {{0x8100, text("AT+CFUN=1,1")}})[0x8100], text("\r\nOK\r\n"));
+    EXPECT_THAT(mDisconnects, SizeIs(3)) << "a reset by command, after its answer";
+}
+
+TEST_F(Faults, StrikeByChance)
+{
+    add(R"({"match": {"message": "GetRRCStatus"}, "action": "drop", "probability": 0.25})");
+    for (int i = 0; i < 1000; ++i) {
+        send(0x3825);
+    }
+    EXPECT_NEAR(static_cast<double>(mAnswers.size()), 750, 60);
+}
+
+} // namespace
+} // namespace sim::test

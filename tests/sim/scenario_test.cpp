@@ -1,0 +1,117 @@
+#include "modem_fixture.h"
+
+#include <fstream>
+
+namespace sim::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+class Scenarios : public ModemTest {};
+
+struct Row {
+    std::string json;
+    std::string error;
+};
+
+TEST_F(Scenarios, ErrorsTellPlaceAndReason)
+{
+    const std::vector<Row> rows{
+        {R"([])", "/: must be an object"},
+        {R"({"sed": 1})", "/sed: unknown name"},
+        {R"({"seed": -1})", "/seed: must be 0 to 4294967295, not -1"},
+        {R"({"slots": {}})", "/slots: must be a list"},
+        {R"({"slots": [{}, {}, {}, {}]})", "/slots: has 4 entries, at most 3 are possible"},
+        {R"({"slots": [7]})", "/slots/0: must be an object"},
+        {R"({"slots": [{"serving": {"pci": 1008}}]})", "/slots/0/serving/pci: must be 0 to 1007, not 1008"},
+        {R"({"slots": [{"serving": {"pci": "1"}}]})",
+         "/slots/0/serving/pci: must be a whole number, 0 to 1007"},
+        {R"({"slots": [{"serving": {"rat": "GSM"}}]})", "/slots/0/serving/rat: must be LTE or NR"},
+        {R"({"slots": [{}, {}, {"serving": {"rat": "LTE"}}]})", "/slots/2/serving/arfcn: missing"},
+        {R"({"slots": [{"lteAnchor": {"rat": "NR"}}]})", "/slots/0/lteAnchor: must be an LTE cell"},
+        {R"({"slots": [{"operator": {"mnc": 100}}]})", "/slots/0/operator/mnc: must be 0 to 99, not 100"},
+        {R"({"slots": [{"sim": {"imsi": "12x"}}]})", "/slots/0/sim/imsi: must be decimal digits"},
+        {R"({"slots": [{"nv": [{"id": 1, "index": 0, "data": "0g"}]}]})",
+         "/slots/0/nv/0/data: must be hexadecimal digits"},
+        {R"({"slots": [{"nv": [{"id": 1, "index": 0, "data": "012"}]}]})",
+         "/slots/0/nv/0/data: has an odd number of hexadecimal digits"},
+        {R"({"slots": [{"at": ["AT+CFUN=9"]}]})", "/slots/0/at/0: the modem refuses this command"},
+        {R"({"slots": [{"settings": [{"message": "NoSuch", "fields": {}}]}]})",
+         "/slots/0/settings/0/message: unknown request"},
+        {R"({"slots": [{"settings": [{"message": "SetSarState", "fields": {"source": 1}}]}]})",
+         "/slots/0/settings/0/fields/state: missing"},
+        {R"({"simTrays": 1})", "/simTrays: must be a list"},
+        {R"({"faults": [{"action": "explode"}]})", "/faults/0/action: must be one of drop, delay, late"},
+        {R"({"faults": [{"action": "drop", "count": 1, "probability": 1}]})",
+         "/faults/0/probability: can't stand next to a count"},
+        {R"({"faults": [{"action": "drop", "match": {"message": "TestInd"}}]})",
+         "/faults/0/match/message: unknown request"},
+        {R"({"faults": [{"action": "drop", "match": {"at": "AT\""}}]})",
+         "/faults/0/match/at: is no AT command"},
+        {R"({"timeline": [{"at": 1, "slot": 0, "message": "SetSarState", "fields": {}}]})",
+         "/timeline/0/message: unknown indication"},
+        {R"({"timeline": [{"at": 1, "slot": 3, "message": "TestInd", "fields": {"data": 1}}]})",
+         "/timeline/0/slot: must be 0 to 2, not 3"},
+    };
+    for (const auto& row : rows) {
+        EXPECT_THAT([&] { fromText(row.json); }, ThrowsMessage<ScenarioError>(HasSubstr(row.error)))
+            << row.json;
+    }
+}
+
+TEST_F(Scenarios, ErrorsInFilesNameTheFile)
+{
+    const auto file = std::filesystem::path(testing::TempDir()) / "scenario_test.json";
+    const auto errorIs = [](const std::string& error) {
+        return ThrowsMessage<ScenarioError>(HasSubstr(error));
+    };
+    const auto read = [&] { Scenario::fromFile(file); };
+    std::filesystem::remove(file);
+    EXPECT_THAT(read, errorIs(file.string() + ": can't be read"));
+    std::ofstream(file) << "{\"seed\": ";
+    EXPECT_THAT(read, errorIs(file.string() + ": "));
+    std::ofstream(file) << "{\"seed\": true}";
+    EXPECT_THAT(read, errorIs(file.string() + ": /seed: must be a whole number"));
+    std::ofstream(file) << "{\"seed\": 3}";
+    EXPECT_EQ(Scenario::fromFile(file).json()["seed"], 3);
+    std::filesystem::remove(file);
+}
+
+TEST_F(Scenarios, OfTheExamplesAreInOrder)
+{
+    for (const auto& file : std::filesystem::directory_iterator(EXAMPLES)) {
+        EXPECT_NO_THROW(Modem(Scenario::fromFile(file.path()), *this)) << file.path();
+    }
+}
+
+TEST_F(Scenarios, LieOverTheBuiltInOne)
+{
+    start(R"({"slots": [{"comment": "weak", "serving": {"rsrp": -120}, "lteAnchor": null}, {"serving": null}],
+              "timeline": []})");
+    EXPECT_EQ(ask(0x3813)[256], i32(0)) << "no anchor any more";
+    const auto serving = std::get<Bytes>(ask(0x381F)[256]);
+    EXPECT_EQ(toNumber<int32_t>(serving, 40), -120);
+    EXPECT_EQ(toNumber<int32_t>(serving, 16), 101) << "not mentioned";
+    EXPECT_EQ(std::get<Bytes>(ask(0x381F, {}, 2)[256]).front(), 0) << "no service any more";
+}
+
+TEST_F(Scenarios, TimelineRunsFromTheFirstMomentOn)
+{
+    start(R"({"timeline": [{"at": 20, "slot": 1, "message": "TestInd", "fields": {"data": -2}},
+                           {"at": 10, "slot": 0, "message": "0x7E02", "fields": {"data": 5}}]})");
+    mNow += 1h;
+    ASSERT_LE(*mModem->nextDeadline(), mNow) << "wants to be told the time";
+    mModem->advance(mNow);
+    EXPECT_EQ(mModem->nextDeadline(), mNow + 10ms);
+    mModem->advance(mNow + 30ms);
+    ASSERT_EQ(mIndications.size(), 2U);
+    EXPECT_EQ(mIndications[0].fields[256], i32(5));
+    EXPECT_EQ(mIndications[1].fields[256], i32(-2));
+    EXPECT_EQ(mIndications[1].header.msg_id, 0x7E02);
+    EXPECT_EQ(mIndications[1].header.slot_id, 2);
+    EXPECT_EQ(mModem->nextDeadline(), std::nullopt);
+}
+
+} // namespace
+} // namespace sim::test

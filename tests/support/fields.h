@@ -1,0 +1,129 @@
+/// Fields of messages, written down in tables.
+#pragma once
+
+#include "message.h"
+
+#include <cstring>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+namespace test {
+
+/// Adds itself to a message.
+using Field = std::function<void(vorn_msg_t*)>;
+using Fields = std::vector<Field>;
+using Bytes = std::vector<uint8_t>;
+
+template <typename Number>
+Field numeric(uint16_t tag, Number value)
+{
+    return [=](vorn_msg_t* message) { vorn_msg_add_tlv(message, tag, sizeof value, &value); };
+}
+inline Field int8(uint16_t tag, int8_t value)
+{
+    return numeric(tag, value);
+}
+inline Field uint8(uint16_t tag, uint8_t value)
+{
+    return numeric(tag, value);
+}
+inline Field int16(uint16_t tag, int16_t value)
+{
+    return numeric(tag, value);
+}
+inline Field uint16(uint16_t tag, uint16_t value)
+{
+    return numeric(tag, value);
+}
+inline Field int32(uint16_t tag, int32_t value)
+{
+    return numeric(tag, value);
+}
+inline Field uint32(uint16_t tag, uint32_t value)
+{
+    return numeric(tag, value);
+}
+
+/// The modem's result.
+inline Field result(uint32_t value)
+{
+    return uint32(0, value);
+}
+
+inline Field raw(uint16_t tag, Bytes bytes)
+{
+    return [=](vorn_msg_t* message) {
+        const uint8_t nothing = 0;
+        vorn_msg_add_tlv(message, tag, static_cast<uint16_t>(bytes.size()),
+                         bytes.empty() ? &nothing : bytes.data());
+    };
+}
+
+inline Field text(uint16_t tag, std::string_view value)
+{
+    Bytes bytes(value.begin(), value.end());
+    bytes.push_back(0);
+    return raw(tag, std::move(bytes));
+}
+
+/// An array field of elements given as bytes.
+inline Field array(uint16_t tag, std::vector<Bytes> elements)
+{
+    return [=](vorn_msg_t* message) {
+        vorn_msg_add_array(message, tag, static_cast<uint16_t>(elements.size()));
+        for (size_t i = 0; i < elements.size(); ++i) {
+            vorn_msg_add_idx(message, tag, static_cast<uint16_t>(i),
+                             static_cast<uint16_t>(elements[i].size()), elements[i].data());
+        }
+    };
+}
+
+/// The bytes of plain values, one after the other, little-endian.
+template <typename... Values>
+Bytes packed(Values... values)
+{
+    Bytes bytes((sizeof(Values) + ... + 0));
+    uint8_t* to = bytes.data();
+    ((std::memcpy(to, &values, sizeof values), to += sizeof values), ...);
+    return bytes;
+}
+
+template <typename Number>
+Field numbers(uint16_t tag, std::vector<Number> values)
+{
+    std::vector<Bytes> elements;
+    for (const Number value : values) {
+        elements.push_back(packed(value));
+    }
+    return array(tag, std::move(elements));
+}
+
+/// 1, 2, 3, ... up to `size` bytes.
+inline Bytes counting(size_t size, uint8_t first = 1)
+{
+    Bytes bytes(size);
+    for (size_t i = 0; i < size; ++i) {
+        bytes[i] = static_cast<uint8_t>(first + i);
+    }
+    return bytes;
+}
+
+inline host::MessagePtr message(uint16_t id, uint8_t slotBit, uint16_t transaction, const Fields& fields)
+{
+    host::MessagePtr message(vorn_msg_init_with_txid(id, slotBit, transaction));
+    for (const Field& field : fields) {
+        field(message.get());
+    }
+    return message;
+}
+
+/// Everything that a message says, in order: two messages are equal when their frames are.
+inline Bytes frame(const vorn_msg_t& message)
+{
+    Bytes frame;
+    host::Message::of(message).encode(frame);
+    return frame;
+}
+
+} // namespace test

@@ -1,0 +1,202 @@
+/// The shared library over the real message library and the simulated modem: every accepted request is
+/// answered once, whatever the modem and the link do.
+#include "host/clock.h"
+#include "host/device.h"
+#include "host/vorn_control.h"
+#include "radio_apis/radio_apis.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <atomic>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto kModem = RADIO_APIS_SERVICE_MODEM;
+
+/// Counts the answers to many requests; each request has a counter of its own.
+class Answers {
+public:
+    explicit Answers(size_t requests) : mCounters(requests) {}
+
+    void* userData(size_t request)
+    {
+        mCounters[request].owner = this;
+        return &mCounters[request];
+    }
+    static void onResult(void* user, RADIO_APIS_RESULT result, RadioApisResultType*)
+    {
+        auto& counter = *static_cast<Counter*>(user);
+        const std::lock_guard lock(counter.owner->mMutex);
+        ++counter.calls;
+        counter.owner->mFailures += result != RADIO_APIS_SUCCESS;
+        ++counter.owner->mTotal;
+        counter.owner->mChanged.notify_all();
+    }
+
+    /// Waits until as many answers came as requests were accepted, then checks that each came once.
+    void expectOnceEach(size_t accepted)
+    {
+        std::unique_lock lock(mMutex);
+        EXPECT_TRUE(mChanged.wait_for(lock, 60s, [&] { return mTotal >= accepted; })) << mTotal;
+        EXPECT_EQ(mTotal, accepted);
+        for (const Counter& counter : mCounters) {
+            EXPECT_LE(counter.calls, 1);
+        }
+    }
+    size_t failures()
+    {
+        const std::lock_guard lock(mMutex);
+        return mFailures;
+    }
+
+private:
+    struct Counter {
+        Answers* owner = nullptr;
+        int calls = 0;
+    };
+    std::vector<Counter> mCounters;
+    std::mutex mMutex;
+    std::condition_variable mChanged;
+    size_t mTotal = 0;
+    size_t mFailures = 0;
+};
+
+nlohmann::json control(const nlohmann::json& command)
+{
+    nlohmann::json answer;
+    const auto keep = [](const char* json, void* user) {
+        *static_cast<nlohmann::json*>(user) = nlohmann::json::parse(json);
+    };
+    EXPECT_EQ(vorn_host_control(command.dump().c_str(), keep, &answer), 0);
+    EXPECT_TRUE(answer.value("ok", false)) << answer;
+    return answer;
+}
+
+void addFault(nlohmann::json match, nlohmann::json fault)
+{
+    fault["match"] = std::move(match);
+    control({{"command", "fault-add"}, {"fault", fault}});
+}
+
+struct ExactlyOnce : testing::Test {
+    ExactlyOnce()
+    {
+        setenv("RADIO_VORN_DEVICE", "embedded", 1);
+        setenv("RADIO_LOG", "off", 1);
+        host::setProperty("ro.vendor.zor_vorn_support", "1");
+        EXPECT_EQ(radioApisInit(kModem, 0), 0);
+    }
+    ~ExactlyOnce() override { host::Clock::thaw(); }
+};
+
+} // namespace
+
+TEST_F(ExactlyOnce, WhenTheModemDropsTheAnswer)
+{
+    host::Clock::freeze();
+    addFault({{"message", "SendScreenState"}}, {{"action", "drop"}, {"count", 1}});
+    Answers answers(2);
+    ASSERT_EQ(radioSendScreenState(1, answers.userData(0), Answers::onResult), 0);
+    ASSERT_EQ(radioSendScreenState(1, answers.userData(1), Answers::onResult), 0);
+    answers.expectOnceEach(1);
+    host::Clock::advance(60s);
+    answers.expectOnceEach(2);
+    EXPECT_EQ(answers.failures(), 1u);
+}
+
+TEST_F(ExactlyOnce, WhenTheModemAnswersTwiceOrToNobody)
+{
+    addFault({{"message", "SendScreenState"}}, {{"action", "duplicate"}, {"count", 1}});
+    addFault({{"message", "SetSarState"}}, {{"action", "wrong_transaction"}, {"count", 1}});
+    host::Clock::freeze();
+    Answers answers(3);
+    ASSERT_EQ(radioSendScreenState(1, answers.userData(0), Answers::onResult), 0);
+    ASSERT_EQ(radioSetSarState(1, 1, answers.userData(1), Answers::onResult), 0);
+    ASSERT_EQ(radioGetServiceMode(answers.userData(2), Answers::onResult), 0);
+    answers.expectOnceEach(2);
+    host::Clock::advance(60s);
+    answers.expectOnceEach(3);
+}
+
+TEST_F(ExactlyOnce, WhenTheLinkDiesWithManyInFlight)
+{
+    static std::mutex mutex;
+    static std::condition_variable changed;
+    static std::vector<int> states;
+    registerRadioApisEvent(kModem, nullptr, [](RADIO_APIS_SERVICE_TYPE, RAPIS_CONNECT_STATE state, void*) {
+        const std::lock_guard lock(mutex);
+        states.push_back(state);
+        changed.notify_all();
+    });
+    host::Clock::freeze();
+    addFault({{"message", "SendScreenState"}}, {{"action", "drop"}});
+    addFault({{"message", "SetSarState"}}, {{"action", "disconnect"}, {"count", 1}, {"ms", 1000}});
+    constexpr size_t kRequests = 1001;
+    Answers answers(kRequests + 1);
+    for (size_t i = 0; i + 1 < kRequests; ++i) {
+        ASSERT_EQ(radioSendScreenState(1, answers.userData(i), Answers::onResult), 0);
+    }
+    ASSERT_EQ(radioSetSarState(1, 1, answers.userData(kRequests - 1), Answers::onResult), 0);
+    answers.expectOnceEach(kRequests);
+    EXPECT_EQ(answers.failures(), kRequests);
+    EXPECT_EQ(radioGetServiceMode(answers.userData(kRequests), Answers::onResult), 1); // the link is down
+
+    // The link comes back by itself, within its back-off.
+    std::unique_lock lock(mutex);
+    while (states.size() < 3) {
+        host::Clock::advance(1s);
+        changed.wait_for(lock, 10ms);
+    }
+    EXPECT_EQ(states, (std::vector<int>{RAPIS_CONNECTED, RAPIS_DISCONNECTED, RAPIS_CONNECTED}));
+    lock.unlock();
+    ASSERT_EQ(radioGetServiceMode(answers.userData(kRequests), Answers::onResult), 0);
+    answers.expectOnceEach(kRequests + 1);
+    EXPECT_EQ(answers.failures(), kRequests);
+}
+
+TEST_F(ExactlyOnce, WhenTheInstanceIsReleasedFirst)
+{
+    host::Clock::freeze();
+    addFault({{"message", "GetRRCStatus"}}, {{"action", "delay"}, {"ms", 500}});
+    addFault({{"at", "AT+CEMODE?"}}, {{"action", "delay"}, {"ms", 500}});
+    constexpr size_t kRequests = 100;
+    Answers answers(2 * kRequests);
+    for (size_t i = 0; i < kRequests; ++i) {
+        ASSERT_EQ(radioGetRRCStatus(answers.userData(2 * i), Answers::onResult), 0);
+        ASSERT_EQ(radioGetServiceMode(answers.userData(2 * i + 1), Answers::onResult), 0);
+    }
+    EXPECT_EQ(radioApisReleaseService(kModem), 0);
+    control({{"command", "state"}}); // all requests reached the modem: it answers commands in turn
+    host::Clock::advance(500ms);
+    answers.expectOnceEach(2 * kRequests);
+    EXPECT_EQ(answers.failures(), 0u);
+}
+
+TEST_F(ExactlyOnce, FromManyThreadsOnThreeInstances)
+{
+    constexpr size_t kPerThread = 2000;
+    constexpr size_t kThreads = 6;
+    Answers answers(kThreads * kPerThread);
+    std::vector<std::thread> threads;
+    for (size_t t = 0; t < kThreads; ++t) {
+        threads.emplace_back([&, t] {
+            EXPECT_EQ(radioApisInit(kModem, static_cast<unsigned>(t % 3)), 0);
+            for (size_t i = t * kPerThread; i < (t + 1) * kPerThread; ++i) {
+                EXPECT_EQ(i % 2 == 0 ? radioSetSarState(1, 1, answers.userData(i), Answers::onResult)
+                                     : radioGetAllCellularCellInfo(answers.userData(i), Answers::onResult),
+                          0);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    answers.expectOnceEach(kThreads * kPerThread);
+    EXPECT_EQ(answers.failures(), 0u);
+}

@@ -1,0 +1,118 @@
+/// radioctl: every request of the library from the command line.
+#include "radioctl/batch.h"
+#include "radioctl/print.h"
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+using namespace radioctl;
+
+struct Options {
+    SessionOptions session;
+    bool json = false;
+    std::vector<std::string> words; ///< the command and its arguments
+};
+
+constexpr char kFooter[] = R"(
+Commands:
+  list              all requests
+  batch FILE        run the requests in FILE, one per line; - is standard input
+  REQUEST [ARGS]    send one request and print its answer
+  REQUEST --help    tell its arguments
+
+Exit status: 0 success, 1 refused or failed, 2 wrong usage, 3 no answer in time.)";
+
+bool isHelp(const std::string& word)
+{
+    return word == "--help" || word == "-h";
+}
+
+int batch(const Options& options)
+{
+    if (options.words.size() != 2) {
+        throw UsageError("batch wants one FILE; - is standard input");
+    }
+    const std::string& name = options.words[1];
+    std::ifstream file;
+    if (name != "-") {
+        file.open(name);
+        if (!file) {
+            throw UsageError(fmt::format("can't read {}", name));
+        }
+    }
+    const Session session(options.session);
+    return runBatch(name == "-" ? std::cin : file, name, session, options.json);
+}
+
+int run(const Options& options)
+{
+    const std::string& command = options.words.front();
+    if (command == "list") {
+        fmt::print("{}", requestList(options.json));
+        return kExitSuccess;
+    }
+    if (command == "batch") {
+        return batch(options);
+    }
+    const Request* request = findRequest(command);
+    if (request == nullptr) {
+        throw UsageError(fmt::format("no request is called '{}'; 'radioctl list' shows them all", command));
+    }
+    const std::vector<std::string> words(options.words.begin() + 1, options.words.end());
+    if (std::ranges::any_of(words,
+                            [](const std::string& word) { return word == "--help" || word == "-h"; })) {
+        fmt::print("radioctl {}", request->usage());
+        return kExitSuccess;
+    }
+    const Arguments arguments(request->arguments, words);
+    const Session session(options.session);
+    return printOutcome(*request, session.run(*request, arguments), options.json);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    CLI::App app("Requests to the vendor features of a cellular modem.", "radioctl");
+    Options options;
+    unsigned timeout = 10000;
+    app.add_option("--device", options.session.device,
+                   "embedded, embedded:SCENARIO.json or unix:PATH (default: what the device file names)");
+    app.add_option("--instance", options.session.instance, "the modem instance, 0 to 2")
+        ->check(CLI::Range(0, 2));
+    app.add_option("--timeout", timeout, "how long to wait for an answer, in ms")
+        ->check(CLI::Range(1, 3600000));
+    app.add_flag("--json", options.json, "print one JSON object per answer");
+    app.footer(kFooter);
+    // What is no option of radioctl's own is the command's, wherever it stands.
+    app.allow_extras();
+    app.set_help_flag();
+    try {
+        app.parse(argc, argv);
+        options.words = app.remaining();
+        options.session.timeout = std::chrono::milliseconds(timeout);
+        if (options.words.empty()) {
+            throw UsageError("no command; 'radioctl --help' tells them");
+        }
+        if (isHelp(options.words.front())) {
+            fmt::print("{}", app.help());
+            return kExitSuccess;
+        }
+        return run(options);
+    } catch (const CLI::ParseError& error) {
+        fmt::print(stderr, "radioctl: {}\n", error.what());
+        return kExitUsage;
+    } catch (const UsageError& error) {
+        fmt::print(stderr, "radioctl: {}\n", error.what());
+        return kExitUsage;
+    } catch (const std::exception& error) {
+        fmt::print(stderr, "radioctl: {}\n", error.what());
+        return kExitFailure;
+    }
+}

@@ -1,0 +1,51 @@
+/// Every request that radioctl knows: one row each.
+#pragma once
+
+#include "radio_apis/radio_apis.h"
+#include "radioctl/arguments.h"
+
+#include <nlohmann/json.hpp>
+
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace radioctl {
+
+using Json = nlohmann::ordered_json;
+using Rsp = decltype(RadioApisResultType::rsp);
+
+/// Where an answer is to go.
+struct Reply {
+    void* userData;
+    RadioRequestCallback callback;
+};
+
+struct Request {
+    std::string entryPoint; ///< the function of the library
+    std::string group;
+    std::string help;
+    std::vector<Argument> arguments;
+    std::function<int(const Arguments& in, Reply to)> send;
+    std::function<Json(const Rsp&)> show; ///< empty when the answer carries nothing
+
+    /// The entry point's name on the command line: radioGetLteCellInfo is get-lte-cell-info.
+    std::string name() const;
+
+    /// `name ARGUMENT...` and what the arguments are.
+    std::string usage() const;
+};
+
+/// All requests, in the order in which they are listed.
+const std::vector<Request>& requests();
+
+/// Null when there is none of that name; an entry point's name is understood too.
+const Request* findRequest(std::string_view name);
+
+/// The parts of the table.
+std::vector<Request> cellRequests();
+std::vector<Request> deviceRequests();
+std::vector<Request> nvRequests();
+
+} // namespace radioctl
