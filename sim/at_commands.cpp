@@ -130,6 +130,33 @@ AtReply getImsi(const AtCall& call)
                                   : AtReply{AtResult::NoSimCard};
 }
 
+/// +EGMC=1,"NAME",VALUE...: sets an item of the modem's configuration; +EGMC=0,"NAME" reads one that was set.
+AtReply configureItem(const AtCall& call)
+{
+    const auto& parameters = call.parameters;
+    if (parameters.size() < 2 || !parameters[1].quoted) {
+        return {AtResult::BadParameters};
+    }
+    const std::string key = "+EGMC " + parameters[1].text;
+    if (parameters[0].text == "1" && parameters.size() > 2) {
+        auto& values = call.slot.at[key];
+        values.clear();
+        for (size_t i = 2; i < parameters.size(); ++i) {
+            values.push_back(parameters[i].text);
+        }
+        return {};
+    }
+    const auto item = call.slot.at.find(key);
+    if (parameters[0].text != "0" || parameters.size() != 2 || item == call.slot.at.end()) {
+        return {AtResult::BadParameters};
+    }
+    std::string line = "+EGMC: \"" + parameters[1].text + '"';
+    for (const std::string& value : item->second) {
+        line += "," + value;
+    }
+    return {AtResult::Ok, {line}};
+}
+
 constexpr AtRule kEcho[] = {{Type::Number, 0, 1, true}};
 constexpr AtRule kErrorMode[] = {{Type::Number, 0, 2, true}};
 constexpr AtRule kFunctionality[] = {{Type::Number, 0, 127}, {Type::Number, 0, 1, true}};
@@ -157,6 +184,7 @@ constexpr AtCommand kCommands[] = {
      .rules = kOperationMode,
      .initial = "2"},
     {.name = "+CIMI", .execute = getImsi, .test = ok},
+    {.name = "+EGMC", .set = configureItem},
 };
 
 } // namespace

@@ -42,6 +42,7 @@ Answer writeNv(Slot& slot, const Request& request);
 // handlers_collect.cpp
 Answer unloadAtomApplication(Slot& slot, const Request& request);
 Answer getAtomData(Slot& slot, const Request& request);
+Bytes atomRecord(const Slot& slot, int32_t id); ///< three words: id, status and sub-policy as they were set
 Answer stopMetrics(Slot& slot, const Request& request);
 Answer getMetrics(Slot& slot, const Request& request);
 Answer getSceneModes(Slot& slot, const Request& request);

@@ -44,16 +44,21 @@ Answer unloadAtomApplication(Slot& slot, const Request& request)
     return {wasLoaded ? ModemResult::Success : ModemResult::Failure};
 }
 
-/// Three words for each atom: id, status and sub-policy as they were set.
+Bytes atomRecord(const Slot& slot, int32_t id)
+{
+    const Fields* atom = slot.settings.find("SetAtomStatus", keyOf(id));
+    Bytes record = toBytes(id);
+    append(record, atom != nullptr ? atom->number<int32_t>(257) : 0);
+    append(record, atom != nullptr ? atom->number<int32_t>(258) : 0);
+    return record;
+}
+
 Answer getAtomData(Slot& slot, const Request& request)
 {
     Bytes block;
     const auto& atoms = slot.settings.all("SetAtomStatus");
     for (const int32_t id : wantedIds(request.fields.elements(258), atoms, kMaxAtoms)) {
-        const Fields* atom = slot.settings.find("SetAtomStatus", keyOf(id));
-        append(block, id);
-        append(block, atom != nullptr ? atom->number<int32_t>(257) : 0);
-        append(block, atom != nullptr ? atom->number<int32_t>(258) : 0);
+        append(block, atomRecord(slot, id));
     }
     return blockAnswer(std::move(block));
 }

@@ -1,5 +1,6 @@
 #include "modem_state.h"
 
+#include "contents.h"
 #include "request_check.h"
 #include "zor/log.h"
 
@@ -42,6 +43,7 @@ void Modem::State::load(ScenarioData scenario)
     mRandom.seed(scenario.seed);
     mTimeline = std::move(scenario.timeline);
     mNextIndication = 0;
+    mReports.clear();
 }
 
 void Modem::State::receive(ClientId client, const vorn_msg_t& request, TimePoint now)
@@ -71,9 +73,13 @@ void Modem::State::receive(ClientId client, const vorn_msg_t& request, TimePoint
         return;
     }
 
-    const bool refuse = fault && fault->action == FaultAction::Result;
-    Answer answer = refuse ? Answer{static_cast<ModemResult>(fault->result), {}}
-                           : handle(mSlots.at(static_cast<size_t>(*slot)), {*checked.spec, checked.fields});
+    Answer answer;
+    if (fault && fault->action == FaultAction::Result) {
+        answer.result = static_cast<ModemResult>(fault->result);
+    } else {
+        answer = carryOut(mSlots.at(static_cast<size_t>(*slot)), {*checked.spec, checked.fields},
+                          due.consequences);
+    }
     due.fields = std::move(answer.fields);
     due.fields.setNumber(0, static_cast<int32_t>(answer.result));
     send(std::move(due), fault, now);
@@ -86,6 +92,7 @@ void Modem::State::send(DueAnswer due, const std::optional<Fault>& fault, TimePo
 {
     switch (fault ? fault->action : FaultAction::Result) {
     case FaultAction::Drop:
+        follow(due, now);
         return;
     case FaultAction::Delay:
     case FaultAction::Late:
@@ -107,6 +114,7 @@ void Modem::State::send(DueAnswer due, const std::optional<Fault>& fault, TimePo
         break;
     }
     deliver(due);
+    follow(due, now);
 }
 
 void Modem::State::deliver(const DueAnswer& due)
@@ -123,22 +131,41 @@ void Modem::State::deliver(const DueAnswer& due)
     }
 }
 
+void Modem::State::follow(const DueAnswer& due, TimePoint now)
+{
+    for (const Indication& indication : due.consequences.indications) {
+        indicate(indication);
+    }
+    if (due.consequences.reports) {
+        mReports.change(due.client, *due.consequences.reports, now);
+    }
+}
+
 void Modem::State::indicate(const Indication& indication)
 {
     const vorn_msg_hdr_t header{indication.spec->id, 0, static_cast<uint8_t>(1U << indication.slot)};
-    if (auto message = makeMessage(header, indication.fields)) {
-        ++mSlots.at(static_cast<size_t>(indication.slot)).indicationsSent[header.msg_id];
+    Slot& slot = mSlots.at(static_cast<size_t>(indication.slot));
+    for (uint32_t i = 0; i < indication.times; ++i) {
+        Fields fields = contentsOf(*indication.spec, {mSlots, slot});
+        for (const auto& [tag, value] : indication.fields) {
+            fields.set(tag, value);
+        }
+        auto message = makeMessage(header, fields);
+        if (message == nullptr) {
+            zorLogE(kTag, "indication 0x%04x does not fit into a message", unsigned{header.msg_id});
+            return;
+        }
+        ++slot.indicationsSent[header.msg_id];
         mOutput.indicate(std::move(message));
-    } else {
-        zorLogE(kTag, "indication 0x%04x does not fit into a message", unsigned{header.msg_id});
     }
 }
 
 std::optional<TimePoint> Modem::State::nextDeadline() const
 {
-    std::optional<TimePoint> deadline;
+    std::optional<TimePoint> deadline = mReports.nextDeadline();
     if (!mDue.empty()) {
-        deadline = mDue.begin()->first;
+        const TimePoint next = mDue.begin()->first;
+        deadline = deadline ? std::min(*deadline, next) : next;
     }
     if (mNextIndication < mTimeline.size()) {
         const TimePoint next = mStart ? *mStart + mTimeline[mNextIndication].at : TimePoint::min();
@@ -158,6 +185,9 @@ void Modem::State::advance(TimePoint now)
         if (!mDue.empty() && mDue.begin()->first == *deadline) {
             const auto due = mDue.extract(mDue.begin());
             deliver(due.mapped());
+            follow(due.mapped(), *deadline);
+        } else if (mReports.nextDeadline() == deadline) {
+            indicate(mReports.takeNext());
         } else {
             indicate(mTimeline[mNextIndication++].indication);
         }
@@ -167,11 +197,13 @@ void Modem::State::advance(TimePoint now)
 void Modem::State::forget(ClientId client)
 {
     std::erase_if(mDue, [&](const auto& due) { return due.second.client == client; });
+    mReports.stop(client);
 }
 
 void Modem::State::disconnect(std::chrono::milliseconds downFor)
 {
     mDue.clear();
+    mReports.clear();
     mOutput.disconnect(downFor);
 }
 

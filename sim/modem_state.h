@@ -1,7 +1,8 @@
 /// The inside of the modem.
 #pragma once
 
-#include "handlers.h"
+#include "consequences.h"
+#include "periodic_reports.h"
 #include "scenario_data.h"
 #include "sim/modem.h"
 
@@ -29,11 +30,13 @@ private:
         ClientId client;
         vorn_msg_hdr_t header;
         Fields fields;
+        Consequences consequences = {}; ///< they come after it
     };
 
     /// Puts an answer on its way, or what a fault makes of it.
     void send(DueAnswer due, const std::optional<Fault>& fault, TimePoint now);
     void deliver(const DueAnswer& due);
+    void follow(const DueAnswer& due, TimePoint now);
     void indicate(const Indication& indication);
 
     void load(ScenarioData scenario);
@@ -64,6 +67,7 @@ private:
     size_t mNextIndication = 0;
     std::optional<TimePoint> mStart; ///< of the timeline; not before the modem is told the time
     std::multimap<TimePoint, DueAnswer> mDue;
+    PeriodicReports mReports;
 };
 
 } // namespace sim

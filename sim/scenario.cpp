@@ -40,19 +40,6 @@ json laidOverBuiltIn(const json& changes)
 
 } // namespace
 
-Indication indicationFromJson(JsonNode& node)
-{
-    const JsonNode message = node.member("message");
-    Indication indication;
-    indication.spec = Protocol::instance().find(message.text());
-    if (indication.spec == nullptr || indication.spec->kind != MessageKind::Indication) {
-        message.fail("unknown indication");
-    }
-    indication.slot = node.member("slot").number<int>(0, kSlots - 1);
-    indication.fields = fieldsFromJson(node.member("fields"), indication.spec->response);
-    return indication;
-}
-
 ScenarioData readScenario(const json& scenarioJson)
 {
     ScenarioData scenario;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "fault.h"
+#include "indication.h"
 #include "slot.h"
 
 #include <array>
@@ -9,16 +10,6 @@
 #include <vector>
 
 namespace sim {
-
-struct Indication {
-    const MessageSpec* spec = nullptr;
-    int slot = 0;
-    Fields fields;
-};
-
-/// {"message": NAME or ID, "slot": N, "fields": {NAME: VALUE...}}; reads these members only. Throws
-/// ScenarioError.
-Indication indicationFromJson(JsonNode& node);
 
 struct TimedIndication {
     std::chrono::milliseconds at{0}; ///< after the modem's start

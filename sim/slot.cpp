@@ -69,6 +69,17 @@ const Cell* Slot::camped() const
     return serving && radioOn() ? &*serving : nullptr;
 }
 
+uint32_t Slot::timesIndicated(uint16_t id) const
+{
+    const auto sent = indicationsSent.find(id);
+    return sent != indicationsSent.end() ? sent->second : 0;
+}
+
+uint32_t Slot::servedMcc() const
+{
+    return camped() != nullptr ? plmn.mcc : 0;
+}
+
 const Cell* Slot::lteCell() const
 {
     const Cell* cell = camped();

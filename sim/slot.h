@@ -40,11 +40,18 @@ struct Slot {
     AtValues at;
     std::map<uint16_t, uint32_t> indicationsSent; ///< how often, by message id
     uint32_t metricsReadings = 0;
+    uint32_t previousMcc = 0; ///< of the network it was registered in before; 0: none
 
     bool radioOn() const;
 
     /// The cell it camps on; null without service.
     const Cell* camped() const;
+
+    /// How often an indication was sent, by its message id.
+    uint32_t timesIndicated(uint16_t id) const;
+
+    /// The country it is registered in; 0 without service.
+    uint32_t servedMcc() const;
 
     /// The LTE cell among those it uses; null when there is none.
     const Cell* lteCell() const;

@@ -82,6 +82,15 @@ json bytesToJson(const Bytes& bytes, const FieldSpec& spec)
 
 } // namespace
 
+Bytes wordBlock(std::initializer_list<int64_t> words)
+{
+    Bytes block;
+    for (const int64_t word : words) {
+        append(block, static_cast<uint32_t>(word));
+    }
+    return block;
+}
+
 void Fields::setText(uint16_t tag, std::string_view text)
 {
     Bytes bytes(text.begin(), text.end());
@@ -143,11 +152,12 @@ Value valueFromJson(const JsonNode& node, const FieldSpec& spec)
     return elements;
 }
 
-Fields fieldsFromJson(JsonNode node, const std::vector<FieldSpec>& specs)
+Fields fieldsFromJson(JsonNode node, const std::vector<FieldSpec>& specs, Extent extent)
 {
     Fields fields;
     for (const auto& spec : specs) {
-        if (!spec.isOptional || node.has(spec.name)) {
+        const bool isRequired = extent == Extent::Whole && !spec.isOptional;
+        if (isRequired || node.has(spec.name)) {
             fields.set(spec.tag, valueFromJson(node.member(spec.name), spec));
         }
     }

@@ -7,6 +7,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <initializer_list>
 #include <map>
 #include <string_view>
 #include <variant>
@@ -48,6 +49,14 @@ void append(Bytes& block, Number number)
     block.insert(block.end(), bytes.begin(), bytes.end());
 }
 
+inline void append(Bytes& block, const Bytes& more)
+{
+    block.insert(block.end(), more.begin(), more.end());
+}
+
+/// A row of 32-bit words, negative ones in two's complement.
+Bytes wordBlock(std::initializer_list<int64_t> words);
+
 /// The fields of one message by tag.
 class Fields {
 public:
@@ -88,7 +97,10 @@ Message makeMessage(const vorn_msg_hdr_t& header, const Fields& fields);
 /// A field's value from JSON: numbers, texts, raw bytes as hexadecimal digits, arrays as lists of these.
 /// Throws ScenarioError when it does not suit the field.
 Value valueFromJson(const JsonNode& node, const FieldSpec& spec);
-Fields fieldsFromJson(JsonNode node, const std::vector<FieldSpec>& specs);
+
+/// The fields of a message. `Partial` ones may lack any field, others only the optional ones.
+enum class Extent { Whole, Partial };
+Fields fieldsFromJson(JsonNode node, const std::vector<FieldSpec>& specs, Extent extent = Extent::Whole);
 
 /// The reverse. Private contents and bytes that don't have the field's width are given by their length.
 nlohmann::json valueToJson(const Value& value, const FieldSpec& spec);

@@ -10,6 +10,117 @@
 
 extern "C" {
 
+/// RADIO_EVENT_SML_STATUS_IND: the carrier lock's status.
+RADIO_API void vornVsClientNotifySmlStatusIndEvent(void* indication, int, void* userData,
+                                                   RadioEventCallback callback);
+
+/// RADIO_EVENT_RLK_STATUS_IND: the region lock's status.
+RADIO_API void vornVsClientNotifyRlkStatusIndEvent(void* indication, int, void* userData,
+                                                   RadioEventCallback callback);
+
+/// RADIO_EVENT_NEC_IND: data of the network evaluation.
+RADIO_API void vornVsClientNotifyNecEvent(void* indication, int, void* userData, RadioEventCallback callback);
+
+/// RADIO_EVENT_VEYRA_CELL_INFO_IND: a measurement report.
+RADIO_API void vornVsClientNotifyVeyraInfoIndEvent(void* indication, int, void* userData,
+                                                   RadioEventCallback callback);
+
+/// RADIO_EVENT_TEST_IND: a test of the indications.
+RADIO_API void vornVsClientNotifyTestIndEvent(void* indication, int, void* userData,
+                                              RadioEventCallback callback);
+
+/// RADIO_EVENT_VEYRA_EVENT_IND: an event of the measurements.
+RADIO_API void vornVsClientNotifyVeyraEvevtIndEvent(void* indication, int, void* userData,
+                                                    RadioEventCallback callback);
+
+/// RADIO_EVENT_SIDO_ISSUE_IND: an issue of the supply.
+RADIO_API void vornVsClientNotifySidoIssueIndEvent(void* indication, int, void* userData,
+                                                   RadioEventCallback callback);
+
+/// RADIO_EVENT_HST_MODE_IND: the high-speed train mode.
+RADIO_API void vornVsClientNotifyHstModeIndEvent(void* indication, int, void* userData,
+                                                 RadioEventCallback callback);
+
+/// RADIO_EVENT_SERVING_CELL_INFO_IND: the serving cell.
+RADIO_API void vornVsClientNotifyServingCellInfoIndEvent(void* indication, int, void* userData,
+                                                         RadioEventCallback callback);
+
+/// RADIO_EVENT_HYPER_UPLINK_STATE_IND: the uplink enhancement's state.
+RADIO_API void vornVsClientNotifyHyperUplinkStateIndEvent(void* indication, int, void* userData,
+                                                          RadioEventCallback callback);
+
+/// RADIO_EVENT_ATOM_DATA_IND: data that an atom collected.
+RADIO_API void vornVsClientNotifyAtomDataIndEvent(void* indication, int, void* userData,
+                                                  RadioEventCallback callback);
+
+/// RADIO_EVENT_IMS_RTP_CONTROL_IND: control of an RTP session.
+RADIO_API void vornVsClientNotifyImsRtpControlIndEvent(void* indication, int, void* userData,
+                                                       RadioEventCallback callback);
+
+/// RADIO_EVENT_OLOG_IND: how much was logged.
+RADIO_API void vornVsClentNotifyOlogIndEvent(void* indication, int, void* userData,
+                                             RadioEventCallback callback);
+
+/// RADIO_EVENT_SINGLE_SIM_CHANGE_IND: a change between one and two SIMs.
+RADIO_API void vornVsClentNotifySingleSimChangeIndEvent(void* indication, int, void* userData,
+                                                        RadioEventCallback callback);
+
+/// RADIO_EVENT_MCC_CHANGED_IND: another country.
+RADIO_API void vornVsClentNotifyMccChangedIndEvent(void* indication, int, void* userData,
+                                                   RadioEventCallback callback);
+
+/// RADIO_EVENT_ALERT_EVENT_IND: an alert.
+RADIO_API void vornVsClentNotifyAlertEventIndEvent(void* indication, int, void* userData,
+                                                   RadioEventCallback callback);
+
+/// Delivers nothing.
+RADIO_API void vornVsClentNotifyImsAudioQualityEventIndEvent(void* indication, int, void* userData,
+                                                             RadioEventCallback callback);
+
+/// RADIO_EVENT_VODATA_IND: voice over a data connection.
+RADIO_API void vornVsClentNotifyVodataEventIndEvent(void* indication, int, void* userData,
+                                                    RadioEventCallback callback);
+
+/// RADIO_EVENT_CALL_STATE_CHANGE_IND: a call's state.
+RADIO_API void vornVsClentNotifyCallStateChangeIndEvent(void* indication, int, void* userData,
+                                                        RadioEventCallback callback);
+
+/// RADIO_EVENT_ALL_CELL_INFO_IND: the cells of the subscriptions.
+RADIO_API void vornVsClentNotifyAllCellInfoIndEvent(void* indication, int, void* userData,
+                                                    RadioEventCallback callback);
+
+/// RADIO_EVENT_QOS_PERIOD_REPORT_IND: quality of service, periodically.
+RADIO_API void vornVsClientNotifyQosPeriodReportIndEvent(void* indication, int, void* userData,
+                                                         RadioEventCallback callback);
+
+/// RADIO_EVENT_QOS_EVENT_REPORT_IND: quality of service, when something happened.
+RADIO_API void vornVsClientNotifyQosEventReportIndEvent(void* indication, int, void* userData,
+                                                        RadioEventCallback callback);
+
+/// RADIO_EVENT_NETWORK_ACTION_RESULT_IND: the outcome of network actions.
+RADIO_API void vornVsClentNotifyNetworkActionResultIndEvent(void* indication, int, void* userData,
+                                                            RadioEventCallback callback);
+
+/// RADIO_EVENT_SCENE_MODE_IND: a change of scene modes.
+RADIO_API void vornVsClentNotifySceneModeIndEvent(void* indication, int, void* userData,
+                                                  RadioEventCallback callback);
+
+/// RADIO_EVENT_SMART_NETWORK_SELECT_IND: the network that the modem would select.
+RADIO_API void vornVsClentNotifySmartNetworkSelectIndEvent(void* indication, int, void* userData,
+                                                           RadioEventCallback callback);
+
+/// RADIO_EVENT_RF_ICC_CLAT_INFO_IND: coexistence with the other radios.
+RADIO_API void vornVsClientNotifyRfIccClatIndEvent(void* indication, int, void* userData,
+                                                   RadioEventCallback callback);
+
+/// RADIO_EVENT_RF_ICC_TX_SHARING_IND: sharing of the transmit path with the other radios.
+RADIO_API void vornVsClientNotifyRfIccTxSharingIndEvent(void* indication, int, void* userData,
+                                                        RadioEventCallback callback);
+
+/// RADIO_EVENT_RF_ICC_EVENT_IND: an event of the coexistence.
+RADIO_API void vornVsClientNotifyRfIccEventIndEvent(void* indication, int, void* userData,
+                                                    RadioEventCallback callback);
+
 /// RADIO_EVENT_NW_ETX_POWER: the transmit power that the modem reports in eighths.
 RADIO_API void vornRadioClientNotifyNwEtxPwrEvent(void* indication, int, void* userData,
                                                   RadioEventCallback callback);

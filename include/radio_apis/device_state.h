@@ -10,12 +10,19 @@ struct RadioModemVerdict {
     uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
 };
 
+/// Result of radioGetFeatureState.
+struct RadioFeatureState {
+    uint32_t state; ///< as last set; 0 when the modem does not say
+};
+
+inline constexpr unsigned kRadioMaxSidoIssueValues = 20;
+
 extern "C" {
 
 /// Tells the modem whether the screen is on.
 ///
 /// @param screenState  0: off, 1: on; passed through
-/// @param callback     called once with the modem's verdict and, on success, an empty record
+/// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSendScreenState(int screenState, void* userData, RadioRequestCallback callback);
 
@@ -29,5 +36,57 @@ RADIO_API int radioSendScreenState(int screenState, void* userData, RadioRequest
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetMicroMotionState(int microMotionState, int multiplier, void* userData,
                                        RadioRequestCallback callback);
+
+/// Tells the modem whether it should keep in step with the application processor.
+///
+/// @param sync      passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetSyncWithAp(int sync, void* userData, RadioRequestCallback callback);
+
+/// Switches a modem feature.
+///
+/// @param feature   which feature, passed through
+/// @param state     its state, passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetFeatureState(int feature, int state, void* userData, RadioRequestCallback callback);
+
+/// The state of a modem feature.
+///
+/// @param feature   which feature
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.featureState`
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetFeatureState(int feature, void* userData, RadioRequestCallback callback);
+
+/// Runs one of the modem's prepared cases.
+///
+/// @param caseId    which case
+/// @param param1    its parameters, passed through
+/// @param param2    see `param1`
+/// @param param3    see `param1`
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioDispatchCase(unsigned int caseId, int param1, int param2, int param3, void* userData,
+                                RadioRequestCallback callback);
+
+/// Sets the values of one kind of diagnosis.
+///
+/// @param type      which kind
+/// @param values    the values; may be null when `count` is 0
+/// @param count     their number, at most 65535
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem; 11 for null values or too many of them; 1 when refused otherwise
+RADIO_API int radioSetDiagnoseConfig(unsigned int type, int* values, unsigned int count, void* userData,
+                                     RadioRequestCallback callback);
+
+/// Configures the detection of issues of the supply's single-inductor dual-output converter.
+///
+/// @param values    the values; not null
+/// @param count     their number, at most 20
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem; 11 for null values or too many of them; 1 when refused otherwise
+RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* userData,
+                                      RadioRequestCallback callback);
 
 } // extern "C"

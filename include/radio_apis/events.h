@@ -4,6 +4,8 @@
 /// radioRegisterRadioEvent), and somebody must listen for the event it becomes (registerRadioEvent).
 #pragma once
 
+#include "radio_apis/blob.h"
+#include "radio_apis/cell_info.h"
 #include "radio_apis/result.h"
 
 #include <cstdint>
@@ -106,6 +108,200 @@ struct RadioCallRtpSessionMlc {
     int32_t event; ///< the modem's event number
 };
 static_assert(sizeof(RadioCallRtpSessionMlc) == 8);
+
+/// Records of RADIO_EVENT_SML_STATUS_IND and RADIO_EVENT_RLK_STATUS_IND: lock data as the modem sent it.
+using RadioLockStatusEvent = RadioBlob<512>;
+static_assert(sizeof(RadioLockStatusEvent) == 516);
+
+/// Record of RADIO_EVENT_NEC_IND, and of both QoS report events.
+using RadioReportEvent = RadioBlob<2048>;
+static_assert(sizeof(RadioReportEvent) == 2052);
+
+/// Record of RADIO_EVENT_ATOM_DATA_IND.
+using RadioAtomDataEvent = RadioBlob<4096>;
+static_assert(sizeof(RadioAtomDataEvent) == 4100);
+
+/// Record of RADIO_EVENT_TEST_IND, RADIO_EVENT_VEYRA_EVENT_IND and RADIO_EVENT_HST_MODE_IND.
+struct RadioValueEvent {
+    int32_t value;
+};
+static_assert(sizeof(RadioValueEvent) == 4);
+
+inline constexpr unsigned kRadioMaxReportCells = 200;
+
+/// One measured cell. The values are the modem's and passed through.
+struct RadioVeyraCell {
+    uint8_t rat;           ///< of the frequency
+    uint64_t subscription; ///< of the subscription
+    uint64_t group;        ///< of the frequency group; 0 without a valid PLMN
+    uint16_t pci;          ///< physical cell identity
+    uint16_t mcc;          ///< mobile country code, decimal; 0 without a valid PLMN
+    uint16_t mnc;          ///< mobile network code, decimal; 0 without a valid PLMN
+    uint32_t arfcn;        ///< EARFCN or NR-ARFCN of the frequency
+    uint8_t beam;
+    int16_t rsrp;
+    int16_t rsrq;
+    int16_t sinr;
+    uint16_t quality;
+    uint64_t reserved1;     ///< 0
+    int16_t offset;         ///< of the frequency
+    uint8_t reserved2[118]; ///< 0
+};
+static_assert(sizeof(RadioVeyraCell) == 176);
+
+/// Record of RADIO_EVENT_VEYRA_CELL_INFO_IND: a measurement report.
+struct RadioVeyraCellInfo {
+    uint32_t count;    ///< cells that were measured, at most 200
+    uint32_t reserved; ///< 0
+    RadioVeyraCell cells[kRadioMaxReportCells];
+};
+static_assert(sizeof(RadioVeyraCellInfo) == 35208);
+
+/// Record of RADIO_EVENT_SIDO_ISSUE_IND, as the modem defines it.
+struct RadioSidoIssueEvent {
+    int32_t values[21];
+};
+static_assert(sizeof(RadioSidoIssueEvent) == 84);
+
+/// Record of RADIO_EVENT_SERVING_CELL_INFO_IND: the members of RadioServingCell, as the modem sends them.
+struct RadioServingCellEvent {
+    uint32_t rat;
+    uint32_t mcc;
+    uint32_t mnc;
+    uint32_t tac;
+    uint32_t pci;
+    uint32_t arfcn;
+    uint32_t reserved;
+    uint32_t cellIdLow;
+    uint32_t cellIdHigh;
+    uint32_t band;
+    uint32_t rsrp;
+    uint32_t rsrq;
+    uint32_t sinr;
+    uint32_t rssi;
+    uint32_t dlBandwidth;
+    uint32_t ulArfcn;
+    uint32_t ulBandwidth;
+    uint32_t timingAdvance;
+    uint32_t cqi;
+    uint32_t rrcState;
+    uint8_t mncDigits;
+    uint8_t rxAntennas;
+    uint8_t txAntennas;
+    uint32_t cause; ///< why it is reported, as the modem defines it
+};
+static_assert(sizeof(RadioServingCellEvent) == 88);
+
+/// Record of RADIO_EVENT_HYPER_UPLINK_STATE_IND.
+struct RadioHyperUplinkStateEvent {
+    int32_t scene;
+    int32_t state;
+    int32_t type;
+};
+static_assert(sizeof(RadioHyperUplinkStateEvent) == 12);
+
+/// Record of RADIO_EVENT_IMS_RTP_CONTROL_IND.
+struct RadioImsRtpControlEvent {
+    uint16_t control;
+};
+static_assert(sizeof(RadioImsRtpControlEvent) == 2);
+
+/// Record of RADIO_EVENT_OLOG_IND.
+struct RadioOlogEvent {
+    int32_t dataLength; ///< bytes that were logged
+    int32_t dataLost;   ///< bytes that were lost
+};
+static_assert(sizeof(RadioOlogEvent) == 8);
+
+/// Record of RADIO_EVENT_SINGLE_SIM_CHANGE_IND.
+struct RadioSingleSimChangeEvent {
+    uint8_t state;
+};
+static_assert(sizeof(RadioSingleSimChangeEvent) == 1);
+
+/// Record of RADIO_EVENT_MCC_CHANGED_IND.
+struct RadioMccChangedEvent {
+    int32_t mcc;         ///< mobile country code now
+    int32_t previousMcc; ///< mobile country code before
+};
+static_assert(sizeof(RadioMccChangedEvent) == 8);
+
+/// Record of RADIO_EVENT_ALERT_EVENT_IND.
+struct RadioAlertEvent {
+    int32_t type;
+    int32_t level;
+    int32_t entries[5]; ///< what the modem did not send is 0
+};
+static_assert(sizeof(RadioAlertEvent) == 28);
+
+/// Records of RADIO_EVENT_VODATA_IND and RADIO_EVENT_CALL_STATE_CHANGE_IND.
+struct RadioStateEvent {
+    int32_t id;
+    int32_t state;
+};
+static_assert(sizeof(RadioStateEvent) == 8);
+
+/// Record of RADIO_EVENT_ALL_CELL_INFO_IND: the cells of up to two subscriptions, as the modem sends them.
+struct RadioAllCellInfoEvent {
+    uint32_t count; ///< of `cells`
+    uint32_t reserved;
+    RadioAllCellInfo cells[2];
+};
+static_assert(sizeof(RadioAllCellInfoEvent) == 4280);
+
+/// The outcome of one network action.
+struct RadioNetworkActionOutcome {
+    int32_t id;        ///< the action's number
+    int32_t type;      ///< kind of action
+    int32_t result;    ///< 0: carried out; otherwise as the modem defines it
+    int32_t values[4]; ///< as the modem defines them
+};
+
+/// Record of RADIO_EVENT_NETWORK_ACTION_RESULT_IND.
+struct RadioNetworkActionResultEvent {
+    uint32_t count; ///< at most 16
+    RadioNetworkActionOutcome outcomes[16];
+};
+static_assert(sizeof(RadioNetworkActionResultEvent) == 452);
+
+/// Record of RADIO_EVENT_SCENE_MODE_IND.
+struct RadioSceneModeEvent {
+    uint32_t count;      ///< at most 128
+    int32_t values[128]; ///< scenes and their modes, in turns
+};
+static_assert(sizeof(RadioSceneModeEvent) == 516);
+
+/// Record of RADIO_EVENT_SMART_NETWORK_SELECT_IND.
+struct RadioSmartNetworkSelectEvent {
+    int32_t rat;
+    int32_t arfcn;
+    int32_t pci;
+};
+static_assert(sizeof(RadioSmartNetworkSelectEvent) == 12);
+
+/// Record of RADIO_EVENT_RF_ICC_CLAT_INFO_IND.
+struct RadioRfIccClatEvent {
+    uint16_t band;
+    uint16_t bandwidth; ///< MHz
+    uint16_t state;
+};
+static_assert(sizeof(RadioRfIccClatEvent) == 6);
+
+/// Record of RADIO_EVENT_RF_ICC_TX_SHARING_IND.
+struct RadioRfIccTxSharingEvent {
+    int32_t band;
+    int32_t state;
+    int32_t power;
+};
+static_assert(sizeof(RadioRfIccTxSharingEvent) == 12);
+
+/// Record of RADIO_EVENT_RF_ICC_EVENT_IND.
+struct RadioRfIccEvent {
+    int32_t event;
+    uint32_t dataLength; ///< bytes of `data` that count, at most 128
+    uint8_t data[128];
+};
+static_assert(sizeof(RadioRfIccEvent) == 136);
 
 extern "C" {
 

@@ -1,10 +1,20 @@
 /// The result record that every request callback is given.
 #pragma once
 
+#include "radio_apis/atom.h"
 #include "radio_apis/cell_info.h"
 #include "radio_apis/device_state.h"
+#include "radio_apis/metrics.h"
+#include "radio_apis/network_action.h"
 #include "radio_apis/nv.h"
+#include "radio_apis/policy.h"
+#include "radio_apis/power.h"
+#include "radio_apis/qos.h"
+#include "radio_apis/rf_icc.h"
+#include "radio_apis/sar.h"
+#include "radio_apis/scene.h"
 #include "radio_apis/service_mode.h"
+#include "radio_apis/sim.h"
 
 /// One record for all requests: each request's header tells which member of `rsp` it fills. Reading another
 /// one gives bytes of the filled one. What an answer did not carry is zero. The record belongs to the library
@@ -16,6 +26,22 @@ struct RadioApisResultType {
         RadioServingCell servingCellInfo;
         RadioAllCellInfo allCellInfo;
         RadioModemVerdict microMotion;
+        RadioFeatureState featureState;
+        RadioSarDsiState sarDsiState;
+        RadioSimTrayStatus simTrayStatus;
+        RadioSimLockData simLockData;
+        RadioAtomData atomData;
+        RadioNecData necData;
+        RadioMetricsData metricsData;
+        RadioProtocolInfo protocolInfo;
+        RadioPolicyConfigListType indicationPolicy;
+        RadioIndicationReportList indicationReports;
+        RadioModemHeapList modemHeapList;
+        RadioModemVerdict powerStatistics;
+        RadioQosData qosData;
+        RadioSceneModeList sceneModes;
+        RfIccInfo rfIccInfo;
+        RadioNetworkActionState networkActionState;
         RadioServiceMode serviceModeInfo;
         RadioNvItem nvItemData;
         RadioModemVerdict nvWrite;

@@ -3,6 +3,13 @@
 
 #include "radio_apis/result.h"
 
+#include <cstdint>
+
+/// Result of radioGetSarDsiState.
+struct RadioSarDsiState {
+    int32_t state; ///< device state index, as last set; 0 when the modem does not say
+};
+
 extern "C" {
 
 /// Sets the state of one source of SAR decisions.
@@ -12,5 +19,32 @@ extern "C" {
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSarState(int source, int state, void* userData, RadioRequestCallback callback);
+
+/// Sets the device state index that chooses the SAR table.
+///
+/// @param state     the index, passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetSarDsiState(int state, void* userData, RadioRequestCallback callback);
+
+/// The device state index.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.sarDsiState`
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetSarDsiState(void* userData, RadioRequestCallback callback);
+
+/// Switches real-time SAR.
+///
+/// @param mode      the mode, passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetRtSarMode(int mode, void* userData, RadioRequestCallback callback);
+
+/// Tells the modem the region whose SAR limits hold.
+///
+/// @param regionCode  the region's code, passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetSarRegionCode(int regionCode, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

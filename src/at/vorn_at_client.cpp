@@ -135,6 +135,11 @@ int VornAtClient::sendAtCommandRspRawStr(const char* cmd, void* userData, RadioR
     return sendCommand(cmd, std::make_unique<Command>(this, userData, cb, handler, rsp));
 }
 
+int VornAtClient::sendSetter(const char* cmd, void* userData, RadioRequestCallback cb)
+{
+    return sendAtCommand(cmd, userData, cb, mindroid::make<AtResponseCallback>(completeWithResultVoid));
+}
+
 RADIO_APIS_RESULT VornAtClient::completeWithResultVoid(const sp<Parcel>& answer, RadioApisResultType*)
 {
     try {

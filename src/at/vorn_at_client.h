@@ -37,7 +37,13 @@ public:
 
     int getServiceMode(void* userData, RadioRequestCallback cb);
 
+    /// For NR only: other radio access technologies have a vendor message. `rat` is not sent.
+    int setAntForceStateByRat(int rat, int state, void* userData, RadioRequestCallback cb);
+
 private:
+    /// Sends a command whose answer carries no data.
+    int sendSetter(const char* cmd, void* userData, RadioRequestCallback cb);
+
     struct Command;
     int sendCommand(const char* cmd, std::unique_ptr<Command> command);
 };

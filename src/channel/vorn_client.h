@@ -6,6 +6,7 @@
 #include "channel/vorn_data.h"
 
 #include <memory>
+#include <type_traits>
 
 /// Base of the clients that speak to the modem.
 class VornClient : public RpcClient {
@@ -59,7 +60,9 @@ protected:
     /// failure would be answered before the handler sees it.
     ///
     /// @param tag   the client's log tag
-    /// @param fill  a function object without state: an answer may arrive after this client is gone
+    /// @param fill  a function object without state: an answer may arrive after this client is gone. It
+    /// returns nothing,
+    ///              or a result code; with a failing one there is no record
     template <typename Fill>
     int sendQuery(const char* tag, const mindroid::sp<VornData>& request, void* userData,
                   RadioRequestCallback cb, Fill fill);
@@ -87,8 +90,15 @@ int VornClient::sendQuery(const char* tag, const mindroid::sp<VornData>& request
             return;
         }
         ZeroedResult record;
-        Fill{}(VornView(static_cast<vorn_msg_t*>(response)), record);
-        RadioRequestFunction{cb}(context->userData, RADIO_APIS_SUCCESS, &record);
+        const VornView in(static_cast<vorn_msg_t*>(response));
+        if constexpr (std::is_void_v<std::invoke_result_t<Fill, const VornView&, RadioApisResultType&>>) {
+            Fill{}(in, record);
+            RadioRequestFunction{cb}(context->userData, RADIO_APIS_SUCCESS, &record);
+        } else {
+            const RADIO_APIS_RESULT result = Fill{}(in, record);
+            RadioRequestFunction{cb}(context->userData, result,
+                                     result == RADIO_APIS_SUCCESS ? &record : nullptr);
+        }
     };
     return send(request, userData, nullptr, handler);
 }

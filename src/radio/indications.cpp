@@ -1,6 +1,6 @@
 #include "radio/indications.h"
 
-#include "channel/vorn_view.h"
+#include "channel/converter.h"
 #include "radio_apis/converters.h"
 #include "zor/log.h"
 
@@ -8,40 +8,28 @@ namespace {
 
 constexpr char kTag[] = "VornRadioClientEvent";
 
-/// The frame of every converter: `fill` makes the record from the message.
-template <typename Record, typename Fill>
-void convert(RADIO_EVENT_TYPE event, void* indication, void* userData, RadioEventCallback callback, Fill fill)
-{
-    if (indication == nullptr || callback == nullptr) {
-        return;
-    }
-    Record record{};
-    fill(VornView(static_cast<vorn_msg_t*>(indication)), record);
-    callback(event, userData, &record, sizeof record);
-}
-
 } // namespace
 
 void vornRadioClientNotifyNwEtxPwrEvent(void* indication, int, void* userData, RadioEventCallback callback)
 {
-    convert<RadioNwEtxPower>(RADIO_EVENT_NW_ETX_POWER, indication, userData, callback,
-                             [](const VornView& in, RadioNwEtxPower& out) {
-                                 // 64 bits on the way: the modem's extremes wrap instead of overflowing.
-                                 out.txPower =
-                                     static_cast<int32_t>(int64_t{in.getVornInt32Val(257, 0)} / 8 * 100);
-                                 zorLogD(kTag, "%s : radioEvent.event.etxPwr.txPower=%d",
-                                         "vornRadioClientNotifyNwEtxPwrEvent", out.txPower);
-                             });
+    deliverEvent<RadioNwEtxPower>(RADIO_EVENT_NW_ETX_POWER, indication, userData, callback,
+                                  [](const VornView& in, RadioNwEtxPower& out) {
+                                      // 64 bits on the way: the modem's extremes wrap instead of overflowing.
+                                      out.txPower =
+                                          static_cast<int32_t>(int64_t{in.getVornInt32Val(257, 0)} / 8 * 100);
+                                      zorLogD(kTag, "%s : radioEvent.event.etxPwr.txPower=%d",
+                                              "vornRadioClientNotifyNwEtxPwrEvent", out.txPower);
+                                  });
 }
 
 void vornRadioClientNotifyMsimSubModeEvent(void* indication, int, void* userData, RadioEventCallback callback)
 {
-    convert<RadioMsimSubMode>(RADIO_EVENT_MSIM_SUB_MODE, indication, userData, callback,
-                              [](const VornView& in, RadioMsimSubMode& out) {
-                                  zorLogD(kTag, "%s - enter", "vornRadioClientNotifyMsimSubModeEvent");
-                                  out.subMode = in.getVornUint8Val(257, 0) + 2;
-                                  out.state = in.getVornUint8Val(258, 0) == 1 ? 2 : 1;
-                              });
+    deliverEvent<RadioMsimSubMode>(RADIO_EVENT_MSIM_SUB_MODE, indication, userData, callback,
+                                   [](const VornView& in, RadioMsimSubMode& out) {
+                                       zorLogD(kTag, "%s - enter", "vornRadioClientNotifyMsimSubModeEvent");
+                                       out.subMode = in.getVornUint8Val(257, 0) + 2;
+                                       out.state = in.getVornUint8Val(258, 0) == 1 ? 2 : 1;
+                                   });
 }
 
 void vornRadioClientNotifyFreqHoppingEvent(void*, int, void*, RadioEventCallback) {}
@@ -49,7 +37,7 @@ void vornRadioClientNotifyFreqHoppingEvent(void*, int, void*, RadioEventCallback
 void vornRadioClientNotifyDataIfupPacketRouteEvent(void* indication, int, void* userData,
                                                    RadioEventCallback callback)
 {
-    convert<RadioDataIfupPacketRoute>(
+    deliverEvent<RadioDataIfupPacketRoute>(
         RADIO_EVENT_DATA_IFUP_PACKET_ROUTE, indication, userData, callback,
         [](const VornView& in, RadioDataIfupPacketRoute& out) {
             zorLogD(kTag, "%s - enter", "vornRadioClientNotifyDataIfupPacketRouteEvent");
@@ -62,15 +50,15 @@ void vornRadioClientNotifyDataIfupPacketRouteEvent(void* indication, int, void* 
 void vornRadioClientNotifyCallRtpSessionMlcEvent(void* indication, int, void* userData,
                                                  RadioEventCallback callback)
 {
-    convert<RadioCallRtpSessionMlc>(RADIO_EVENT_CALL_RTP_SESSION_MLC, indication, userData, callback,
-                                    [](const VornView& in, RadioCallRtpSessionMlc& out) {
-                                        constexpr char kName[] =
-                                            "vornRadioClientNotifyCallRtpSessionMlcEvent";
-                                        zorLogD(kTag, "%s - enter", kName);
-                                        out.event = in.getVornUint8Val(256, 0);
-                                        out.id = in.getVornInt32Val(257, 0);
-                                        zorLogD(kTag, "%s - event:%d, id:%d", kName, out.event, out.id);
-                                    });
+    deliverEvent<RadioCallRtpSessionMlc>(RADIO_EVENT_CALL_RTP_SESSION_MLC, indication, userData, callback,
+                                         [](const VornView& in, RadioCallRtpSessionMlc& out) {
+                                             constexpr char kName[] =
+                                                 "vornRadioClientNotifyCallRtpSessionMlcEvent";
+                                             zorLogD(kTag, "%s - enter", kName);
+                                             out.event = in.getVornUint8Val(256, 0);
+                                             out.id = in.getVornInt32Val(257, 0);
+                                             zorLogD(kTag, "%s - event:%d, id:%d", kName, out.event, out.id);
+                                         });
 }
 
 const std::array<rpcEventHandlerMap, 4> kRadioIndications = {{

@@ -1,6 +1,7 @@
 #include "vs/indications.h"
 #include "vs/vs_request.h"
 
+#include <limits>
 #include <utility>
 
 using vs::kTag;
@@ -54,4 +55,26 @@ void VornVsClient::unregisterEvent()
     }
     mLastInd.fill(0);
     zorLogD(kTag, "%s : exit", __func__);
+}
+
+void VornVsClient::logEnter(const char* method) const
+{
+    zorLogD(kTag, "%s - enter", method);
+}
+
+int VornVsClient::setState(const char* cbLine, uint16_t msgId, int state, void* userData,
+                           RadioRequestCallback cb)
+{
+    auto request = newRequest(msgId);
+    request->addVornTlvUint32(256, static_cast<uint32_t>(state));
+    return send(request, userData, cb, onVoidResponse(cbLine));
+}
+
+bool isSendable(const void* values, unsigned int count)
+{
+    if ((values == nullptr && count != 0) || count > std::numeric_limits<uint16_t>::max()) {
+        zorLogE(kTag, "invalid paramter found");
+        return false;
+    }
+    return true;
 }

@@ -13,58 +13,57 @@
 #include <atomic>
 #include <cstring>
 #include <functional>
-#include <map>
 
 using namespace std::chrono_literals;
 using host::Clock;
 using host::MessagePtr;
 
-inline MessagePtr answerTo(uint16_t transaction, uint32_t result = 0)
+constexpr uint16_t kMessage = 0x3801;
+
+/// An answer, or an indication when its transaction is 0.
+inline MessagePtr messageOf(uint16_t transaction, uint32_t result = 0, uint8_t slot = 1)
 {
-    MessagePtr answer(vorn_msg_init_with_txid(0x3801, 1, transaction));
-    vorn_msg_add_tlv(answer.get(), 0, sizeof result, &result);
-    return answer;
+    MessagePtr message(vorn_msg_init_with_txid(kMessage, slot, transaction));
+    vorn_msg_add_tlv(message.get(), 0, sizeof result, &result);
+    return message;
 }
 
 /// The modem's side of the link.
 struct FakeModem {
-    using Behaviour = std::function<void(uint16_t transaction, host::LinkEvents& modem)>;
-
-    Behaviour behaviour;          ///< what it does on a request; nothing when empty
+    std::function<void(uint16_t transaction, host::LinkEvents& link)>
+        behaviour;                ///< on a request; may be empty
     std::atomic<int> failures{0}; ///< so many times the link can't be opened
-    host::LinkEvents* events = nullptr;
+    host::LinkEvents* link = nullptr;
+    Inbox<bool> attempts; ///< to open the link
     Inbox<uint16_t> requests;
 };
 
-class FakeLink : public host::Link {
-public:
-    FakeLink(FakeModem& modem, host::LinkEvents& events) : mModem(modem) { mModem.events = &events; }
+struct FakeLink : host::Link {
+    FakeLink(FakeModem& itsModem, host::LinkEvents& events) : modem(itsModem) { modem.link = &events; }
 
     void open() override
     {
-        if (mModem.failures > 0) {
-            --mModem.failures;
+        modem.attempts.add(true);
+        if (modem.failures-- > 0) {
             throw host::LinkError("the modem is away");
         }
     }
     void close() override {}
     void send(const vorn_msg_t& request) override
     {
-        if (mModem.behaviour) {
-            mModem.behaviour(request.hdr.tx_id, *mModem.events);
+        if (modem.behaviour) {
+            modem.behaviour(request.hdr.tx_id, *modem.link);
         }
-        mModem.requests.add(request.hdr.tx_id);
+        modem.requests.add(request.hdr.tx_id);
     }
     std::optional<std::string> control(const std::string& command) override { return "did " + command; }
 
-private:
-    FakeModem& mModem;
+    FakeModem& modem;
 };
 
 /// Where the answers of requests go; the callback finds it by its user pointer.
 struct Answers : Inbox<uint32_t> {
     std::function<void()> onAnswer; ///< runs inside the callback
-    uint16_t transaction = 0;       ///< of the last request
 
     static void callback(vorn_msg_t* answer, void* user)
     {
@@ -82,11 +81,7 @@ class TransportTest : public testing::Test {
 protected:
     TransportTest()
     {
-        host::setLogSink([this](const host::LogLine& line) {
-            if (line.priority >= 5) {
-                warnings.add(line.text);
-            }
-        });
+        host::setLogSink([this](const host::LogLine& line) { warnings.add(line.text); });
         host::observeLinkState([this](host::LinkState state) { states.add(state); });
         host::setProperty("host.vorn.timeout_ms", "60000");
         Clock::freeze();
@@ -96,26 +91,18 @@ protected:
         transport.close();
         host::observeLinkState(nullptr);
         host::setLogSink(nullptr);
-        Clock::thaw();
     }
 
     bool open()
     {
-        return transport.open(
-            [this](host::LinkEvents& events) { return std::make_unique<FakeLink>(modem, events); });
+        return transport.open([this](auto& events) { return std::make_unique<FakeLink>(modem, events); });
     }
 
-    bool send(Answers& user)
+    bool send(Answers& user) { return transport.send(*messageOf(0), Answers::callback, &user); }
+    bool listen(Answers& user) { return transport.registerIndication(1, kMessage, Answers::callback, &user); }
+    static void answer(uint16_t transaction, host::LinkEvents& link)
     {
-        const MessagePtr request(vorn_msg_init(0x3801, 1));
-        const bool accepted = transport.send(*request, Answers::callback, &user);
-        user.transaction = request->hdr.tx_id;
-        return accepted;
-    }
-
-    static void answerRequest(uint16_t transaction, host::LinkEvents& link)
-    {
-        link.received(answerTo(transaction));
+        link.received(messageOf(transaction));
     }
 
     FakeModem modem;

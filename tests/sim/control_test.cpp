@@ -19,6 +19,11 @@ TEST_F(Control, Errors)
          "/fields/more: unknown name"},
         {R"({"command": "indicate", "message": "TestInd", "slot": 0, "fields": {"data": 2147483648}})",
          "/fields/data: must be -2147483648 to 2147483647"},
+        {R"({"command": "indicate", "message": "nec", "slot": 0, "value": 1})",
+         "/value: only suits an indication whose one field is a number"},
+        {R"({"command": "indicate", "message": "test", "slot": 0, "value": 1, "fields": {}})",
+         "/value: can't stand next to fields"},
+        {R"({"command": "indicate", "message": "set-sar-state", "slot": 0})", "/message: unknown indication"},
         {R"({"command": "load", "scenario": {"seed": "x"}})", "/seed: must be a whole number"},
     };
     for (const auto& [command, error] : rows) {

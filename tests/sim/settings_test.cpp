@@ -19,6 +19,7 @@ Value u32s(const std::vector<uint32_t>& words, size_t size = 0)
 Value list(const std::vector<int32_t>& numbers)
 {
     std::vector<Bytes> elements;
+    elements.reserve(numbers.size());
     for (const int32_t number : numbers) {
         elements.push_back(toBytes(number));
     }

@@ -3,6 +3,7 @@
 
 #include "message.h"
 
+#include <algorithm>
 #include <cstring>
 #include <functional>
 #include <string_view>
@@ -43,6 +44,16 @@ inline Field int32(uint16_t tag, int32_t value)
 inline Field uint32(uint16_t tag, uint32_t value)
 {
     return numeric(tag, value);
+}
+
+/// Fields of 32 bits each whose ids follow one another.
+inline Fields int32s(uint16_t firstTag, const std::vector<int32_t>& values)
+{
+    Fields fields;
+    for (const int32_t value : values) {
+        fields.push_back(int32(firstTag++, value));
+    }
+    return fields;
 }
 
 /// The modem's result.
@@ -89,6 +100,22 @@ Bytes packed(Values... values)
     return bytes;
 }
 
+/// Adds bytes at the end.
+inline void append(Bytes& to, const Bytes& more)
+{
+    to.insert(to.end(), more.begin(), more.end());
+}
+
+/// Bytes one after the other.
+inline Bytes joined(std::initializer_list<Bytes> parts)
+{
+    Bytes all;
+    for (const Bytes& part : parts) {
+        append(all, part);
+    }
+    return all;
+}
+
 template <typename Number>
 Field numbers(uint16_t tag, std::vector<Number> values)
 {
@@ -107,6 +134,15 @@ inline Bytes counting(size_t size, uint8_t first = 1)
         bytes[i] = static_cast<uint8_t>(first + i);
     }
     return bytes;
+}
+
+/// A record that is made of these bytes.
+template <typename Record>
+Record recordOf(const Bytes& bytes)
+{
+    Record record{};
+    std::memcpy(static_cast<void*>(&record), bytes.data(), std::min(bytes.size(), sizeof record));
+    return record;
 }
 
 inline host::MessagePtr message(uint16_t id, uint8_t slotBit, uint16_t transaction, const Fields& fields)

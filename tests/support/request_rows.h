@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <map>
 
 namespace test {
 
@@ -43,6 +44,25 @@ struct RequestRow {
     std::function<void(const Rsp&)> check = nullptr; ///< none: the record is all zero
     bool tellsFailureInRecord = false;               ///< a failing answer still ends in success
 };
+
+/// Calls a request method with fixed arguments.
+template <typename Client, typename... Parameters, typename... Arguments>
+auto call(int (Client::*method)(Parameters...), Arguments... arguments)
+{
+    return [=](Client& client, void* user, RadioRequestCallback cb) {
+        return (client.*method)(arguments..., user, cb);
+    };
+}
+
+/// Checks that the record is these bytes and zeros.
+inline std::function<void(const Rsp&)> holds(Bytes expected)
+{
+    expected.resize(sizeof(Rsp));
+    return [=](const Rsp& rsp) {
+        const auto differing = std::ranges::mismatch(expected, packed(rsp)).in1;
+        EXPECT_EQ(differing, expected.end()) << "first at byte " << differing - expected.begin();
+    };
+}
 
 inline bool allZero(const RadioApisResultType& record)
 {
@@ -129,6 +149,49 @@ void checkHostileAnswers(const RequestRow<Client>& row)
                 EXPECT_EQ(caller->calls, calls + 1);
             }
         }
+    }
+}
+
+/// All of the above, on every instance. An answer of which nothing is read can't be hostile.
+template <typename Client>
+void checkRows(const std::vector<RequestRow<Client>>& rows)
+{
+    for (const auto& row : rows) {
+        checkRow(row, 0, 1);
+        checkRow(row, 1, 2);
+        checkRow(row, 2, 4);
+        checkFailures(row);
+        if (row.check) {
+            checkHostileAnswers(row);
+        }
+    }
+}
+
+/// What is logged under a tag, by row; rows that are not listed log that they were entered.
+using LogLines = std::map<std::string, std::vector<std::string>>;
+
+/// The rows log these lines and no other ones when their answer arrives on instance 2.
+template <typename Client>
+void checkLog(const std::vector<RequestRow<Client>>& rows, const std::string& tag, const LogLines& lines)
+{
+    for (const auto& row : rows) {
+        Client client(false, 2);
+        const auto caller = std::make_unique<Caller>();
+        const LogCapture log;
+        row.call(client, caller.get(), Caller::onResult);
+        Fields answer = row.answer;
+        answer.push_back(result(0));
+        FakeModem::instance().answer(answer);
+
+        const auto listed = lines.find(row.name);
+        std::vector<std::string> expected =
+            listed == lines.end() ? std::vector{std::string(row.name) + " - enter"} : listed->second;
+        for (std::string& line : expected) {
+            line.insert(0, "D " + tag + ": ");
+        }
+        std::vector<std::string> logged = log.lines();
+        std::erase_if(logged, [&](const std::string& line) { return line.substr(2, tag.size()) != tag; });
+        EXPECT_EQ(logged, expected) << row.name;
     }
 }
 

@@ -3,7 +3,11 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
+#include <fstream>
+#include <set>
+#include <sstream>
 #include <sys/wait.h>
+#include <unistd.h>
 
 using nlohmann::json;
 using testing::HasSubstr;
@@ -18,9 +22,10 @@ struct Ran {
 /// Runs radioctl in a shell, with standard error in front of what is looked at.
 Ran radioctl(const std::string& arguments, const std::string& input = "")
 {
-    const std::string command = "printf '%b' '" + input +
-                                "' | RADIO_LOG=off RADIO_DEVICE_ROOT='" DEVICE_ROOT "' '" RADIOCTL "' " +
-                                arguments + " 2>&1";
+    const std::string inputFile = testing::TempDir() + "radioctl-input-" + std::to_string(getpid());
+    std::ofstream(inputFile) << input;
+    const std::string command = "RADIO_LOG=off RADIO_DEVICE_ROOT='" DEVICE_ROOT "' '" RADIOCTL "' " +
+                                arguments + " <'" + inputFile + "' 2>&1";
     std::FILE* pipe = popen(command.c_str(), "r");
     Ran run;
     char buffer[4096];
@@ -28,7 +33,116 @@ Ran radioctl(const std::string& arguments, const std::string& input = "")
         run.output.append(buffer, n);
     }
     run.status = WEXITSTATUS(pclose(pipe));
+    std::remove(inputFile.c_str());
     return run;
+}
+
+struct Example {
+    std::string line;
+    std::string record; ///< members of the answer's record; empty: it is enough that there is an answer
+};
+
+/// At least one for each request; getters after what they read.
+const Example kExamples[] = {
+    {"get-lte-cell-info", ""},
+    {"get-rrc-status", ""},
+    {"get-serving-cellular-cell-info", R"({"rat": 5})"},
+    {"get-all-cellular-cell-info", ""},
+    {"send-screen-state 1", ""},
+    {"set-micro-motion-state 1 2", R"({"failure": 0})"},
+    {"set-sync-with-ap 1", ""},
+    {"set-feature-state 5 0x11", ""},
+    {"get-feature-state 5", R"({"state": 17})"},
+    {"get-feature-state 6", R"({"state": 0})"},
+    {"dispatch-case 4294967295 -1 2 3", ""},
+    {"set-diagnose-config 3 -", ""},
+    {"set-sido-issue-config -1,2,3", ""},
+    {"set-sido-issue-config ''", ""},
+    {"get-service-mode", ""},
+    {"set-sar-state -1 2", ""},
+    {"set-sar-dsi-state -7", ""},
+    {"get-sar-dsi-state", R"({"state": -7})"},
+    {"set-rt-sar-mode 1", ""},
+    {"set-sar-region-code 86", ""},
+    {"set-aol-state 1", ""},
+    {"set-mtpl-limit-state 0", ""},
+    {"set-ant-fix-state 1", ""},
+    {"set-ant-block-state 1", ""},
+    {"set-ant-force-state-by-rat 3 1", ""},
+    {"set-ant-force-state-by-rat 4 1", ""},
+    {"set-tx-path-filter -1 78 1", ""},
+    {"set-power-saving-state type=3 op=1 dl=-100 value10=10", ""},
+    {R"(set-smart-idle-cfg '{"type": 1, "nr_t": 2, "lte_c": "0x10"}')", ""},
+    {"set-power-boost-state 1", ""},
+    {"get-power-statistics", R"({"failure": 0})"},
+    {"get-modem-heap-list", R"({"poolCount": 1, "poolName": "modem_pool", "size": 16777216})"},
+    {"set-hyper-uplink-mode 1", ""},
+    {R"(set-hyper-uplink-paras values=[1,2] 'list1={"values": [3]}' 'list2={"values": [4,5], "count": 1}')",
+     ""},
+    {"set-scene-mode 3 9", ""},
+    {"get-scene-mode 3,4", R"({"scenes": [{"scene": 3, "mode": 9}, {"scene": 4, "mode": 0}]})"},
+    {"get-scene-mode -", R"({"scenes": []})"},
+    {"set-qoe-score 1 99", ""},
+    {R"(send-score-info 'scores=[{"id": 1, "score": 2, "values": [3,4]}, {"id": 5}]')", ""},
+    {R"(set-site-cell-info 1 rat=5 siteId=7 'cells=[{"arfcn": 630000, "pci": 1}]')", ""},
+    {"get-sim-tray-status", ""},
+    {"set-carrier-lock-blob 00112233", R"({"length": 4, "data": "00112233"})"},
+    {"set-carrier-lock-status aabb", R"({"data": "aabb"})"},
+    {"get-carrier-lock-status 01", R"({"length": 2, "data": "aabb"})"},
+    {"set-region-lock-blob 0102", R"({"data": "0102"})"},
+    {"set-region-lock-status cc", R"({"data": "cc"})"},
+    {"get-region-lock-status 01", R"({"data": "cc"})"},
+    {"set-ims-audio-quality-threshold values=[1,-2,3]", ""},
+    {"set-ims-rtp-info id=1 state=2", ""},
+    {"set-ims-rtp-threshold values=[1,2,3,4,5,6,7,8,9]", ""},
+    {"set-adaptive-handover-threshold", ""},
+    {"set-qos-report-period 1000", ""},
+    {"set-qos-config 7 deadbeef", ""},
+    {"get-qos-data 7", R"({"length": 4, "data": "deadbeef"})"},
+    {"hplmn-bg-search repeatInterval=6", ""},
+    {"send-network-action id=9 type=4 values=[1,2,3,4] 'parameters=[{\"values\": [1]}]' cellsPresent=1 "
+     "header=1 "
+     "'first={\"present\": 1, \"cells\": [{\"value9\": 18446744073709551615, \"c\": [1,2], \"iPresent\": 1, "
+     "\"j\": [{\"value1\": 65535}], \"gPresent\": 1, \"g\": [1,2]}]}'",
+     ""},
+    {"get-network-action-state 9", R"({"id": 9, "state": 1, "detail": 4})"},
+    {"rollback-network-action 9 0", ""},
+    {"get-network-action-state 9", R"({"id": 9, "state": 2})"},
+    {R"(send-rf-icc-clat-kpi freq=2412000 subPolicy=1 'entries=[{"freq": 1, "bandwidth": 65535, "level": 3}]')",
+     ""},
+    {"send-rf-icc-mode-state 255 2 3 4", ""},
+    {"get-rf-icc-info", R"({"mode": 255})"},
+    {"send-rf-icc-device-err type=1 data=0102", ""},
+    {"set-modem-indication-policy 'policies=[{\"indication\": 403, \"enabled\": 1, \"interval\": 4000000000, "
+     "\"threshold\": -5, \"text1\": \"a,b\", \"text2\": \"123456789\"}, {\"text1\": \"\\u001b\"}]'",
+     ""},
+    {"get-modem-indication-policy",
+     R"({"policies": [{"indication": 403, "enabled": 1, "interval": 4000000000, "threshold": -5, "text1": "a,b",
+         "text2": "123456789"}, {"indication": 0, "enabled": 0, "interval": 0, "threshold": 0, "text1": "\\x1b",
+         "text2": ""}]})"},
+    {R"(set-modem-indication-policy count=1 'policies=[{"indication": 1, "text1": "abc", "length1": 2}, {}]')",
+     ""},
+    {"get-modem-indication-policy",
+     R"({"policies": [{"indication": 1, "enabled": 0, "interval": 0, "threshold": 0, "text1": "ab", "text2": ""}]})"},
+    {"get-indication-report-records", ""},
+    {R"(set-indication-config 2 'configs=[{"indication": 403, "enabled": 1}]')", ""},
+    {"start-metrics-collect 2 11,12", ""},
+    {"get-metrics-data 2 0 5 -", R"({"type": 2, "count": 2, "state": 5, "length": 16})"},
+    {"stop-metrics-collect 2", ""},
+    {"get-nec-data 1 @/dev/null", R"({"data": "0100000000000000"})"},
+    {"get-modem-protocol-info", ""},
+    {"set-veyra-config-policy values=[1,2,3]", ""},
+    {R"(load-atom-application id=4 version=1 'strings=["one", "two"]' values=[1] block=ff)", ""},
+    {"unload-atom-application 4", ""},
+    {R"(set-atom-status 6 1 2 'masks=[{"id": 1, "mask": "0xffffffff"}]' maskCount=1)", ""},
+    {"get-atom-data 1 0 6", R"({"data": "060000000100000002000000"})"},
+    {"write-nv 100 0 \"0102ab\"", R"({"failure": 0})"},
+    {"read-nv 0x64 0", R"({"dataLen": 3, "data": "0102ab"})"},
+};
+
+std::string nameOf(const Example& example)
+{
+    return example.line.substr(0, example.line.find(' '));
 }
 
 } // namespace
@@ -37,7 +151,24 @@ TEST(Radioctl, TellsWhatItCan)
 {
     EXPECT_THAT(radioctl("--help").output, HasSubstr("Exit status"));
     EXPECT_THAT(radioctl("list").output, HasSubstr("get-rrc-status"));
-    EXPECT_THAT(radioctl("write-nv --help").output, HasSubstr("at most 20480 bytes"));
+    const struct {
+        std::string request;
+        std::string text;
+    } helps[] = {
+        {"write-nv", "at most 20480 bytes"},
+        {"set-carrier-lock-blob", "1 to 2048 bytes"},
+        {"set-sido-issue-config", "at most 20 numbers"},
+        {"set-atom-status", "set-atom-status id status subPolicy [info...]"},
+        {"set-atom-status", "      mask             0 to 4294967295"},
+        {"set-atom-status", "    maskCount        0 to 4294967295"},
+        {"set-modem-indication-policy", "0 to 4294967295; shortest time between two, ms"},
+        {"load-atom-application", "list of at most 16, each: text of at most 63 characters"},
+        {"send-network-action", "value9           0 to 18446744073709551615"},
+        {"send-rf-icc-device-err", "hexadecimal digits or @FILE, at most 32 bytes"},
+    };
+    for (const auto& row : helps) {
+        EXPECT_THAT(radioctl(row.request + " --help").output, HasSubstr(row.text));
+    }
     for (const json& request : json::parse(radioctl("list --json").output)) {
         EXPECT_EQ(radioctl(request.at("name").get<std::string>() + " --help").status, 0) << request;
     }
@@ -59,20 +190,32 @@ TEST(Radioctl, ShowsCells)
               record.at("pci"));
 }
 
-TEST(Radioctl, KeepsStateInABatch)
+TEST(Radioctl, SendsEveryRequest)
 {
-    const Ran run =
-        radioctl("--json batch -", "# an item, twice\\nwrite-nv 100 0 \"0102ab\"\\n\\nread-nv 0x64 0\\n"
-                                   "get-service-mode\\nset-sar-state -1 2\\n");
+    std::set<std::string> shown;
+    std::string batch = "# examples\n\n";
+    for (const Example& example : kExamples) {
+        shown.insert(nameOf(example));
+        batch += example.line + "\n";
+    }
+    for (const json& request : json::parse(radioctl("list --json").output)) {
+        EXPECT_TRUE(shown.contains(request.at("name"))) << request << " has no example";
+    }
+
+    const Ran run = radioctl("--json batch -", batch);
     EXPECT_EQ(run.status, 0) << run.output;
     std::istringstream lines(run.output);
-    std::vector<json> answers;
-    for (std::string line; std::getline(lines, line);) {
-        answers.push_back(json::parse(line));
+    for (const Example& example : kExamples) {
+        std::string line;
+        std::getline(lines, line);
+        const json answer = json::parse(line, nullptr, false);
+        ASSERT_TRUE(answer.is_object()) << example.line << "\n" << line;
+        EXPECT_EQ(answer.at("request"), nameOf(example));
+        const json wanted = example.record.empty() ? json::object() : json::parse(example.record);
+        for (const auto& [name, value] : wanted.items()) {
+            EXPECT_EQ(answer.at("record").value(name, json()), value) << example.line << "\n" << line;
+        }
     }
-    ASSERT_EQ(answers.size(), 4u);
-    EXPECT_EQ(answers[1].at("record").at("data"), "0102ab");
-    EXPECT_TRUE(answers[2].at("record").at("serviceMode").is_number());
 }
 
 TEST(Radioctl, TellsWhatWentWrong)
@@ -94,12 +237,44 @@ TEST(Radioctl, TellsWhatWentWrong)
         {"write-nv 1 0 abc", "", 2, "is not pairs of hexadecimal digits"},
         {"write-nv 1 0 @/no/such/file", "", 2, "can't read /no/such/file"},
         {"write-nv 1 0 @" RADIOCTL, "", 2, "at most 20480 are allowed"},
+        {"write-nv 1 0 0g", "", 2, "is not pairs of hexadecimal digits"},
+        {"set-carrier-lock-blob ''", "", 2, "data: 0 bytes, 1 to 2048 are allowed"},
+        {"set-sido-issue-config 1,,2", "", 2, "values: '' is not a number"},
+        {"set-sido-issue-config 1,2,3,4,5,6,7,8,9,10,1,2,3,4,5,6,7,8,9,20,21", "", 2,
+         "at most 20 are allowed"},
+        {"send-rf-icc-mode-state 1 2 3 256", "", 2, "mode4: '256' is not a number from 0 to 255"},
+        {"set-ant-force-state-by-rat 5 1", "", 2, "rat: '5' is not a number from 0 to 4"},
+        {"set-ims-rtp-info id", "", 2, "info: 'id' is not MEMBER=VALUE"},
+        {"set-ims-rtp-info id=1 id=2", "", 2, "info.id is given twice"},
+        {"set-ims-rtp-info ip=1", "", 2, "info has no member 'ip'; it has id, state"},
+        {"set-ims-rtp-info id=x", "", 2, "info.id: 'x' is not a number from -2147483648"},
+        {"set-ims-rtp-info id=2147483648", "", 2, "info.id: '2147483648' is not a number"},
+        {"set-ims-rtp-info id=[1]", "", 2, "info.id: '[1]' is not a number"},
+        {"set-ims-rtp-info id=[1", "", 2, "info.id: '[1' is not JSON"},
+        {"set-ims-rtp-info '{'", "", 2, "info: '{' is not JSON"},
+        {"set-ims-rtp-info '{\"id\": 1.5}'", "", 2, "info.id: '1.5' is not a number"},
+        {"set-ims-rtp-info '{\"id\": true}'", "", 2, "info.id: 'true' is not a number"},
+        {"set-ims-rtp-info '{}' id=1", "", 2, "info: '{}' is not MEMBER=VALUE"},
+        {"set-ims-rtp-threshold values=1", "", 2, "info.values: '1' is not a list like [1,2]"},
+        {"set-veyra-config-policy values=[1,2,3,4,5,6,7,8,9]", "", 2, "values: 9 elements, at most 8"},
+        {"set-atom-status 1 2 3 masks=[1]", "", 2, "info.masks[0]: '1' is not a record like {\"id\":1}"},
+        {"set-atom-status 1 2 3 'masks=[{\"id\":1},{\"msk\":1}]'", "", 2,
+         "info.masks[1] has no member 'msk'"},
+        {"set-atom-status 1 2 3 'masks=[{\"mask\":-1}]'", "", 2,
+         "info.masks[0].mask: '-1' is not a number from 0"},
+        {"set-atom-status 1 2 3 maskCount=4294967296", "", 2, "info.maskCount: '4294967296' is not a number"},
+        {"load-atom-application strings=[1]", "", 2, "application.strings[0]: 1 is not a text"},
+        {"load-atom-application block=xy", "", 2, "application.block: 'xy' is not pairs"},
+        {"set-modem-indication-policy 'policies=[{\"text1\":\"1234567890\"}]'", "", 2,
+         "policies.policies[0].text1: 10 characters, at most 9 are allowed"},
+        {"send-rf-icc-device-err data=" + std::string(66, '0'), "", 2, "error.data: 33 bytes, at most 32"},
+        {"rollback-network-action 77 0", "", 1, "failed, result 1"},
         {"read-nv 424242 0", "", 1, "the modem reported a failure"},
         {"--device embedded:/no/such.json get-lte-cell-info", "", 1, "the modem can't be reached"},
         {"--device /dev/null get-lte-cell-info", "", 1, "the modem can't be reached"},
-        {"batch -", "get-rrc-status\\nread-nv 1\\n", 2, "stopped at -:2"},
-        {"batch -", "read-nv 424242 0\\nget-rrc-status\\n", 1, "stopped at -:1"},
-        {"batch -", "read-nv \"1\\n", 2, "\" is not closed"},
+        {"batch -", "get-rrc-status\nread-nv 1\n", 2, "stopped at -:2"},
+        {"batch -", "read-nv 424242 0\nget-rrc-status\n", 1, "stopped at -:1"},
+        {"batch -", "read-nv \"1\n", 2, "\" is not closed"},
         {"batch /no/such/file", "", 2, "can't read /no/such/file"},
     };
     for (const auto& row : cases) {

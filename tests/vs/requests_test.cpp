@@ -1,3 +1,4 @@
+/// Requests that are answered with the modem's verdict only.
 #include "support/request_rows.h"
 #include "vs/vorn_vs_client.h"
 
@@ -7,173 +8,216 @@ using namespace test;
 
 namespace {
 
-using Row = RequestRow<VornVsClient>;
+using Vs = VornVsClient;
+using Row = RequestRow<Vs>;
 
-/// A serving cell block whose every byte tells its place.
-Bytes servingBlock()
+template <typename... Parameters, typename... Arguments>
+Row row(const char* name, int (Vs::*method)(Parameters...), uint16_t id, const Fields& fields,
+        Arguments... arguments)
 {
-    return counting(83, 0);
+    return {name, call(method, arguments...), id, fields};
 }
 
-void expectServingBlock(const RadioServingCell& cell, uint32_t failure)
+Row plain(const char* name, int (Vs::*method)(int, void*, RadioRequestCallback), uint16_t id)
 {
-    EXPECT_EQ(cell.failure, failure);
-    EXPECT_EQ(cell.rat, 0x03020100u);
-    EXPECT_EQ(cell.pci, 0x13121110u);
-    EXPECT_EQ(cell.arfcn, 0x17161514u);
-    EXPECT_EQ(cell.cellIdLow, 0x1F1E1D1Cu); // bytes 24 to 27 are left out
-    EXPECT_EQ(cell.rrcState, 0x4F4E4D4Cu);
-    EXPECT_EQ(cell.mncDigits, 80);
-    EXPECT_EQ(cell.txAntennas, 82);
+    return row(name, method, id, {int32(256, -3)}, -3);
 }
 
-Row allCells(size_t neighbours)
+Row plain(const char* name, int (Vs::*method)(int, int, void*, RadioRequestCallback), uint16_t id)
 {
-    std::vector<Bytes> elements;
-    for (size_t i = 0; i < neighbours; ++i) {
-        elements.push_back(counting(i == 1 ? 5 : 40, static_cast<uint8_t>(i + 1)));
+    return row(name, method, id, int32s(256, {1, -2}), 1, -2);
+}
+
+/// A record that lies in the message as it is.
+template <typename Record>
+Row block(const char* name, int (Vs::*method)(const Record&, void*, RadioRequestCallback), uint16_t id,
+          size_t size)
+{
+    return row(name, method, id, {raw(256, counting(size))}, recordOf<Record>(counting(size)));
+}
+
+Row redirect(int on, uint8_t sent)
+{
+    return row("setRedirectOptSetting", &Vs::setRedirectOptSetting, 99,
+               {uint8(256, 5), text(258, "SBP_CONTINUOUS_4G5_REDIRECTION_FAILURE"), uint8(259, sent)}, 4, 7,
+               on, 1, 1, 1);
+}
+
+Row attach(int on, uint8_t sent)
+{
+    constexpr char kName[] = "SBP_MODIFY_NON_DATA_SIM_GMM_ATTACH_PRIORITY_TO_LOW_MSPM_PRIORITY";
+    return row("setAttachPriority", &Vs::setAttachPriority, 99,
+               {uint8(256, 5), text(258, kName), uint8(259, sent)}, 0, 2, on, 0, 1);
+}
+
+/// Claims one entry more in each of its lists than they hold.
+Row loadAtom()
+{
+    RadioLoadAtomApplicationType application{.id = 5, .version = 6, .stringCount = 17, .valueCount = 33};
+    std::memcpy(application.strings[0], "one", 3);
+    std::memset(application.strings[15], 'x', 64);
+    application.values[31] = -7;
+    std::ranges::copy(counting(284), application.block);
+    std::vector<Bytes> strings(16);
+    strings[0] = {'o', 'n', 'e'};
+    strings[15] = Bytes(64, 'x');
+    std::vector<int32_t> values(32);
+    values[31] = -7;
+    return row(
+        "loadAtomApplication", &Vs::loadAtomApplication, 0x3815,
+        {int32(256, 5), int32(258, 6), array(257, strings), numbers(259, values), raw(260, counting(284))},
+        application);
+}
+
+Row hyperUplink()
+{
+    Fields fields = int32s(256, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10});
+    for (const Field& field : int32s(272, {11, 12, 13, 14, 15, 16})) {
+        fields.push_back(field);
     }
-    return {"getAllCellularCellInfo",
-            [](auto& c, void* user, auto cb) { return c.getAllCellularCellInfo(user, cb); },
-            0x3821,
-            {},
-            {raw(256, servingBlock()), array(257, elements)},
-            [=](const Rsp& rsp) {
-                const auto& cells = rsp.allCellInfo;
-                expectServingBlock(cells.serving, 0);
-                ASSERT_EQ(cells.neighbourCount, std::min<size_t>(neighbours, 64));
-                for (uint32_t i = 0; i < cells.neighbourCount; ++i) {
-                    EXPECT_EQ(cells.neighbours[i].rat & 0xFF, i + 1);
-                    EXPECT_EQ(cells.neighbours[i].cellIdLow, i == 1 ? 0 : i * 0x01010101 + 0x201F1E1D);
-                }
-            },
-            true};
+    fields.push_back(numbers<int32_t>(278, {21, 22}));
+    fields.push_back(numbers<int32_t>(279, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+    const RadioHyperUplinkParasType paras{{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16},
+                                          {2, {21, 22, 23}},
+                                          {11, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}}};
+    return row("setHyperUplinkParas", &Vs::setHyperUplinkParas, 0x3833, fields, paras);
+}
+
+Row atomStatus(const RadioAtomInfoType& info)
+{
+    const Bytes bytes = packed(info);
+    return row("setAtomStatus", &Vs::setAtomStatus, 0x3859,
+               {int32(256, 1), int32(257, 2), int32(258, 3), raw(259, {bytes.begin(), bytes.begin() + 324}),
+                raw(260, {bytes.begin() + 324, bytes.end()})},
+               1, 2, 3, info);
+}
+
+/// Bytes that count on from record to record.
+std::vector<Bytes> records(size_t size, size_t count)
+{
+    std::vector<Bytes> records;
+    for (size_t i = 0; i < count; ++i) {
+        records.push_back(counting(size, static_cast<uint8_t>(i * size + 1)));
+    }
+    return records;
 }
 
 std::vector<Row> rows()
 {
+    static int values[20] = {1, -2, 3};
+    static Bytes bytes = counting(5);
+    constexpr uint8_t kModes[] = {1, 2, 3, 254};
     return {
-        {"sendScreenState",
-         [](auto& c, void* user, auto cb) { return c.sendScreenState(-3, user, cb); },
-         0x3801,
-         {int32(256, -3)}},
-        {"setSarState",
-         [](auto& c, void* user, auto cb) { return c.setSarState(1, 2, user, cb); },
-         0x3895,
-         {int32(256, 1), int32(257, 2)}},
-        {"setMicroMotionState",
-         [](auto& c, void* user, auto cb) { return c.setMicroMotionState(4, -5, user, cb); },
-         0x3805,
-         {int32(256, 4), int32(257, -5)},
-         {},
-         nullptr,
-         true},
-        {"getLteCellInfo",
-         [](auto& c, void* user, auto cb) { return c.getLteCellInfo(user, cb); },
-         0x3813,
-         {},
-         {uint32(256, 1300), uint8(257, 200), uint32(258, 0x100)},
-         [](const Rsp& rsp) {
-             EXPECT_EQ(rsp.lteCellInfo.arfcn, 1300u);
-             EXPECT_EQ(rsp.lteCellInfo.pci, 200u); // one byte where four are due
-             EXPECT_EQ(rsp.lteCellInfo.connected, 1);
-         },
-         true},
-        {"getRRCStatus",
-         [](auto& c, void* user, auto cb) { return c.getRRCStatus(user, cb); },
-         0x3825,
-         {},
-         {uint32(256, 3)},
-         [](const Rsp& rsp) { EXPECT_EQ(rsp.rrcStatus.status, 3u); },
-         true},
-        {"getRRCStatus without a status",
-         [](auto& c, void* user, auto cb) { return c.getRRCStatus(user, cb); },
-         0x3825,
-         {},
-         {},
-         [](const Rsp& rsp) { EXPECT_EQ(rsp.rrcStatus.status, 1u); },
-         true},
-        {"getServingCellularCellInfo",
-         [](auto& c, void* user, auto cb) { return c.getServingCellularCellInfo(user, cb); },
-         0x381F,
-         {},
-         {raw(256, servingBlock())},
-         [](const Rsp& rsp) { expectServingBlock(rsp.servingCellInfo, 0); },
-         true},
-        allCells(0),
-        allCells(3),
-        allCells(70),
+        plain("sendScreenState", &Vs::sendScreenState, 0x3801),
+        plain("setSyncWithAp", &Vs::setSyncWithAp, 0x380D),
+        plain("unloadAtomApplication", &Vs::unloadAtomApplication, 0x3817),
+        plain("setFeatureState", &Vs::setFeatureState, 0x381B),
+        plain("stopMetricsCollect", &Vs::stopMetricsCollect, 0x3829),
+        plain("setHyperUplinkMode", &Vs::setHyperUplinkMode, 0x382D),
+        plain("setSceneMode", &Vs::setSceneMode, 0x382F),
+        plain("setQoeScore", &Vs::setQoeScore, 0x3831),
+        plain("setSarRegionCode", &Vs::setSarRegionCode, 0x383F),
+        plain("setPowerBoostState", &Vs::setPowerBoostState, 0x383F),
+        plain("setAolState", &Vs::setAolState, 0x3840),
+        plain("setMtplLimitState", &Vs::setMtplLimitState, 0x3841),
+        plain("setAntFixState", &Vs::setAntFixState, 0x3842),
+        plain("setAntBlockState", &Vs::setAntBlockState, 0x3843),
+        plain("rollbackNetworkAction", &Vs::rollbackNetworkAction, 0x3873),
+        plain("setSarState", &Vs::setSarState, 0x3895),
+        plain("setSarDsiState", &Vs::setSarDsiState, 0x3897),
+        plain("setRtSarMode", &Vs::setRtSarMode, 0x389B),
+        block("setModemIndicationPolicy", &Vs::setModemIndicationPolicy, 0x3837, 1588),
+        block("setImsAudioQualityThreshold", &Vs::setImsAudioQualityThreshold, 0x385B, 88),
+        block("setAdaptiveHandoverThreshold", &Vs::setAdaptiveHandoverThreshold, 0x385D, 24),
+        block("setImsRtpInfo", &Vs::setImsRtpInfo, 0x3867, 8),
+        block("setImsRtpThreshold", &Vs::setImsRtpThreshold, 0x3869, 36),
+        block("setSmartIdleCfg", &Vs::setSmartIdleCfg, 0x386B, 20),
+        block("sendRfIccClatKpi", &Vs::sendRfIccClatKpi, 0x387B, 167),
+        block("sendRfIccDeviceErr", &Vs::sendRfIccDeviceErr, 0x387F, 33),
+        row("setPowerSavingState", &Vs::setPowerSavingState, 0x3807,
+            int32s(256, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}), UAIINFO{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}),
+        row("dispatchCase", &Vs::dispatchCase, 0x3809, int32s(256, {-1, 2, 3, 4}), 0xFFFFFFFFu, 2, 3, 4),
+        row("setDiagnoseConfig", &Vs::setDiagnoseConfig, 0x380B,
+            {uint32(256, 7), numbers<int32_t>(257, {1, -2, 3})}, 7u, values, 3u),
+        row("setVeyraConfigPolicy", &Vs::setVeyraConfigPolicy, 0x380F, int32s(256, {1, 2, 3, 4, 5, 6, 7, 8}),
+            VeyraConfigPolicy{{1, 2, 3, 4, 5, 6, 7, 8}}),
+        row("setSidoIssueConfig", &Vs::setSidoIssueConfig, 0x3811,
+            {numbers(256, std::vector<int32_t>(std::begin(values), std::end(values)))}, values, 20u),
+        row("startMetricsCollect", &Vs::startMetricsCollect, 0x3827,
+            {int32(256, 8), numbers<int32_t>(257, {1, -2})}, 8, values, 2u),
+        row("setSiteCellInfo", &Vs::setSiteCellInfo, 0x3835, {raw(256, counting(524))}, 9,
+            recordOf<RadioSiteCellInfoType>(counting(524))),
+        row("setAntForceStateByRat", &Vs::setAntForceStateByRat, 0x3844, {uint8(256, 1), uint8(257, 2)}, 1,
+            1),
+        row("antenna off", &Vs::setAntForceStateByRat, 0x3844, {uint8(256, 3), uint8(257, 1)}, 3, 0),
+        row("setQosReportPeriod", &Vs::setQosReportPeriod, 0x3861, {int32(256, 7)}, 0x500000007L),
+        row("setQosConfig", &Vs::setQosConfig, 0x3863, {uint8(256, 255), raw(257, bytes)}, int8_t{-1},
+            bytes.data(), 5u),
+        row("sendRfIccModeState", &Vs::sendRfIccModeState, 0x387D,
+            {uint8(256, 1), uint8(257, 2), uint8(258, 3), uint8(259, 254)}, kModes[0], kModes[1], kModes[2],
+            kModes[3]),
+        row("setTxPathFilter", &Vs::setTxPathFilter, 0x3881,
+            {uint8(256, 253), uint32(257, 66), uint32(258, 2)}, int8_t{-3}, 66, 2),
+        row("hplmnBgSearch", &Vs::hplmnBgSearch, 0x11B1, {uint16(256, 7)},
+            RadioHplmnBgSearchInfoType{1, 2, 65543}),
+        redirect(9, 1),
+        redirect(0, 0),
+        attach(256, 1),
+        attach(0, 0),
+        loadAtom(),
+        hyperUplink(),
+        atomStatus({2, {{11, 12}, {13, 14}, {15, 16}}, 1, {{17, 18}, {19, 20}}}),
+        row("setIndicationConfig", &Vs::setIndicationConfig, 0x385F,
+            {int32(256, 4), array(257, records(5, 64))}, 4,
+            recordOf<RadioIndicationConfigListType>(joined({packed(65), counting(320)}))),
+        row("sendScoreInfo", &Vs::sendScoreInfo, 0x386F, {array(256, records(32, 16))},
+            recordOf<RadioScoreInfoListType>(joined({packed(17), counting(512)}))),
     };
+}
+
+LogLines lines()
+{
+    LogLines lines = {
+        {"sendScreenState", {"sendScreenState - enter. slotId=2 screenState=-3"}},
+        {"setSyncWithAp", {"setSyncWithAp - enter  "}},
+        {"setFeatureState", {"setFeatureState enter", "setFeatureState cb enter"}},
+        {"setSarState", {"setSarState - enter, source=1, state=-2"}},
+        {"setSarDsiState", {"setSarDsiState - enter, state=-3"}},
+        {"setRtSarMode", {"setRtSarMode - enter, mode=-3"}},
+        {"setModemIndicationPolicy",
+         {"setModemIndicationPolicy - enter. slotId=2", "setModemIndicationPolicy cb enter"}},
+        {"setSmartIdleCfg",
+         {"setSmartIdleCfg - enter", "smart_idle_config , type:67305985, nr_t:134678021, nr_c:202050057"}},
+        {"sendRfIccClatKpi", {"sendRfIccClatKpi - enter", "freq:67305985, num:5, subPolicy:6"}},
+        {"setPowerSavingState",
+         {"setPowerSavingState - enter. setPowerSavingState type=2 op=3 dl=4 ul=5 delay=6 cnt=7"}},
+        {"dispatchCase", {"dispatchCase - enter", "dispatchCase: case=-1 param1=2 param2=3 param3=4"}},
+        {"setSidoIssueConfig", {"setSidoIssueConfig - enter", "operator() - setSidoIssueConfig response  "}},
+        {"setAntForceStateByRat", {"setAntForceStateByRat - enter. slotId=2, rat=1, tas:On,"}},
+        {"antenna off", {"setAntForceStateByRat - enter. slotId=2, rat=3, tas:Off,"}},
+        {"setTxPathFilter", {"setTxPathFilter - enter, rat=-3, band=66, mode=2"}},
+        {"hplmnBgSearch", {"hplmnBgSearch - enter, repeat_interval=65543"}},
+        {"setAtomStatus",
+         {"setAtomStatus - enter", "id:1, status:2, subPolicy:3", "atom_mask_config i:0, id:11, mask:12",
+          "atom_mask_config i:1, id:13, mask:14", "atom_param_config i:0, id:17, mask:18"}},
+    };
+    for (const std::string name :
+         {"setHyperUplinkMode", "setSceneMode", "setQoeScore", "setSarRegionCode", "setPowerBoostState",
+          "setAolState", "setMtplLimitState", "setAntFixState", "setAntBlockState"}) {
+        lines[name] = {name + " - enter", name + " - cb enter"};
+    }
+    return lines;
 }
 
 } // namespace
 
-TEST(VsRequests, SendTheirMessageAndFillTheirRecord)
+TEST(VsRequests, SendTheirMessageAndEndOnce)
 {
-    for (const Row& row : rows()) {
-        checkRow(row, 0, 1);
-        checkRow(row, 1, 2);
-        checkRow(row, 2, 4);
-    }
-}
-
-TEST(VsRequests, EndOnceWhateverTheModemAnswers)
-{
-    for (const Row& row : rows()) {
-        checkFailures(row);
-        checkHostileAnswers(row);
-    }
-}
-
-TEST(VsRequests, TellOfTheModemsFailureInTheRecord)
-{
-    VornVsClient client(false, 0);
-    Caller caller;
-    LogCapture log;
-    client.getServingCellularCellInfo(&caller, Caller::onResult);
-    FakeModem::instance().answer({result(105), raw(256, servingBlock())});
-    EXPECT_EQ(caller.result, RADIO_APIS_SUCCESS);
-    expectServingBlock(caller.record.rsp.servingCellInfo, 1);
-    client.setMicroMotionState(1, 1, &caller, Caller::onResult);
-    FakeModem::instance().answer({result(105)});
-    EXPECT_EQ(caller.result, RADIO_APIS_SUCCESS);
-    EXPECT_EQ(caller.record.rsp.microMotion.failure, 1u);
+    checkRows(rows());
+    checkRows<Vs>({atomStatus({.maskCount = 0xFFFFFFFF, .parameterCount = 5})});
 }
 
 TEST(VsRequests, LogWhatTheyDo)
 {
-    const struct {
-        std::function<int(VornVsClient&, Caller&)> call;
-        Fields answer;
-        std::vector<std::string> lines;
-    } cases[] = {
-        {[](auto& c, auto& to) { return c.sendScreenState(1, &to, Caller::onResult); },
-         {},
-         {"D VornVsClient: sendScreenState - enter. slotId=2 screenState=1"}},
-        {[](auto& c, auto& to) { return c.setSarState(1, 2, &to, Caller::onResult); },
-         {},
-         {"D VornVsClient: setSarState - enter, source=1, state=2"}},
-        {[](auto& c, auto& to) { return c.setMicroMotionState(3, 4, &to, Caller::onResult); },
-         {},
-         {"D VornVsClient: setMicroMotionState - enter. setMicroMotionState microMotionState=3 "
-          "multiplier=4"}},
-        {[](auto& c, auto& to) { return c.getRRCStatus(&to, Caller::onResult); },
-         {uint32(256, 2)},
-         {"D VornVsClient: getRRCStatus - enter. slotId=2", "D VornVsClient: operator() rrc status:2  "}},
-        {[](auto& c, auto& to) { return c.getAllCellularCellInfo(&to, Caller::onResult); },
-         {array(257, std::vector<Bytes>(70, Bytes(32)))},
-         {"D VornVsClient: neighbor_cell_info_len:70"}},
-    };
-    VornVsClient client(false, 2);
-    for (const auto& row : cases) {
-        LogCapture log;
-        Caller caller;
-        row.call(client, caller);
-        Fields answer = row.answer;
-        answer.push_back(result(0));
-        FakeModem::instance().answer(answer);
-        for (const std::string& line : row.lines) {
-            EXPECT_TRUE(log.has(line)) << line;
-        }
-    }
+    checkLog(rows(), "VornVsClient", lines());
 }

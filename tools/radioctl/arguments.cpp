@@ -2,32 +2,13 @@
 
 #include <fmt/format.h>
 
-#include <cctype>
-#include <charconv>
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
 namespace radioctl {
 
 namespace {
-
-/// Decimal, or hexadecimal behind 0x.
-std::optional<int64_t> parseNumber(std::string_view word)
-{
-    const bool negative = word.starts_with('-');
-    std::string_view digits = word.substr(negative ? 1 : 0);
-    const bool hexadecimal = digits.starts_with("0x") || digits.starts_with("0X");
-    if (hexadecimal) {
-        digits.remove_prefix(2);
-    }
-    uint64_t value = 0;
-    const auto [end, error] = std::from_chars(digits.begin(), digits.end(), value, hexadecimal ? 16 : 10);
-    if (error != std::errc() || end != digits.end() ||
-        value > static_cast<uint64_t>(std::numeric_limits<int64_t>::max())) {
-        return std::nullopt;
-    }
-    return negative ? -static_cast<int64_t>(value) : static_cast<int64_t>(value);
-}
 
 std::vector<uint8_t> readFile(const std::string& name)
 {
@@ -38,7 +19,7 @@ std::vector<uint8_t> readFile(const std::string& name)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-std::optional<std::vector<uint8_t>> parseHex(std::string_view word)
+std::optional<std::vector<uint8_t>> toBytes(std::string_view word)
 {
     std::vector<uint8_t> bytes;
     if (word.size() % 2 != 0) {
@@ -55,66 +36,84 @@ std::optional<std::vector<uint8_t>> parseHex(std::string_view word)
     return bytes;
 }
 
+std::string countText(size_t least, size_t most)
+{
+    return least == 0 ? fmt::format("at most {}", most) : fmt::format("{} to {}", least, most);
+}
+
+std::vector<int> parseList(const std::string& name, std::string_view word, size_t most)
+{
+    std::vector<int> numbers;
+    if (word.empty() || word == "-") {
+        return numbers;
+    }
+    for (size_t begin = 0; begin <= word.size();) {
+        const size_t end = std::min(word.find(',', begin), word.size());
+        numbers.push_back(parseNumber<int>(name, word.substr(begin, end - begin)));
+        begin = end + 1;
+    }
+    if (numbers.size() > most) {
+        throw UsageError(fmt::format("{}: {} numbers, at most {} are allowed", name, numbers.size(), most));
+    }
+    return numbers;
+}
+
 } // namespace
 
-std::string Argument::rangeText() const
+std::string rangeText(int64_t lowest, uint64_t highest)
 {
-    return kind == Kind::Number ? fmt::format("{} to {}", lowest, highest)
-                                : fmt::format("hexadecimal digits or @FILE, at most {} bytes", maxBytes);
+    return fmt::format("{} to {}", lowest, highest);
 }
 
-Argument bytes(std::string name, std::string help, size_t maxBytes)
+void refuseNumber(std::string_view where, std::string_view word, const std::string& range)
 {
-    return {std::move(name), std::move(help), Argument::Kind::Bytes, 0, 0, maxBytes};
+    throw UsageError(fmt::format("{}: '{}' is not a number from {}", where, word, range));
 }
 
-Arguments::Arguments(const std::vector<Argument>& descriptions, const std::vector<std::string>& words)
+std::vector<uint8_t> parseBytes(std::string_view where, const std::string& word, size_t least, size_t most)
 {
-    for (size_t i = 0; i < descriptions.size(); ++i) {
-        if (i >= words.size()) {
-            throw UsageError(
-                fmt::format("{} is missing ({})", descriptions[i].name, descriptions[i].rangeText()));
+    const auto bytes = word.starts_with('@') ? readFile(word.substr(1)) : toBytes(word);
+    if (!bytes) {
+        throw UsageError(fmt::format("{}: '{}' is not pairs of hexadecimal digits", where, word));
+    }
+    if (bytes->size() < least || bytes->size() > most) {
+        throw UsageError(
+            fmt::format("{}: {} bytes, {} are allowed", where, bytes->size(), countText(least, most)));
+    }
+    return *bytes;
+}
+
+Argument bytes(std::string name, std::string help, size_t least, size_t most)
+{
+    const auto parse = [=](std::span<const std::string> words) -> std::any {
+        return parseBytes(name, words.front(), least, most);
+    };
+    return {name, std::move(help),
+            fmt::format("hexadecimal digits or @FILE, {} bytes", countText(least, most)), parse};
+}
+
+Argument list(std::string name, std::string help, size_t most)
+{
+    const auto parse = [=](std::span<const std::string> words) -> std::any {
+        return parseList(name, words.front(), most);
+    };
+    return {name, std::move(help),
+            fmt::format("at most {} numbers with commas between them, - for none", most), parse};
+}
+
+Arguments::Arguments(const std::vector<Argument>& descriptions, std::span<const std::string> words)
+{
+    for (const Argument& argument : descriptions) {
+        if (words.empty() && !argument.takesRest) {
+            throw UsageError(fmt::format("{} is missing ({})", argument.name, argument.form));
         }
-        mValues.emplace(descriptions[i].name, parse(descriptions[i], words[i]));
+        const size_t taken = argument.takesRest ? words.size() : 1;
+        mValues.push_back(argument.parse(words.first(taken)));
+        words = words.subspan(taken);
     }
-    if (words.size() > descriptions.size()) {
-        throw UsageError(fmt::format("'{}' is one argument too many", words[descriptions.size()]));
+    if (!words.empty()) {
+        throw UsageError(fmt::format("'{}' is one argument too many", words.front()));
     }
-}
-
-Arguments::Value Arguments::parse(const Argument& argument, const std::string& word)
-{
-    Value value;
-    if (argument.kind == Argument::Kind::Number) {
-        const auto parsed = parseNumber(word);
-        if (!parsed || *parsed < argument.lowest || *parsed > argument.highest) {
-            throw UsageError(
-                fmt::format("{}: '{}' is not a number from {}", argument.name, word, argument.rangeText()));
-        }
-        value.number = *parsed;
-        return value;
-    }
-    if (word.starts_with('@')) {
-        value.bytes = readFile(word.substr(1));
-    } else if (auto parsed = parseHex(word)) {
-        value.bytes = std::move(*parsed);
-    } else {
-        throw UsageError(fmt::format("{}: '{}' is not pairs of hexadecimal digits", argument.name, word));
-    }
-    if (value.bytes.size() > argument.maxBytes) {
-        throw UsageError(fmt::format("{}: {} bytes, at most {} are allowed", argument.name,
-                                     value.bytes.size(), argument.maxBytes));
-    }
-    return value;
-}
-
-const Arguments::Value& Arguments::find(std::string_view name) const
-{
-    const auto found = mValues.find(name);
-    if (found == mValues.end()) {
-        throw std::logic_error(fmt::format("no argument is called {}", name));
-    }
-    return found->second;
 }
 
 } // namespace radioctl

@@ -1,10 +1,13 @@
 /// The arguments of a request, from the command line's words.
 #pragma once
 
+#include <any>
+#include <charconv>
 #include <cstdint>
+#include <functional>
 #include <limits>
-#include <map>
 #include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -20,50 +23,83 @@ public:
 
 /// What one argument is, for checks and for help.
 struct Argument {
-    enum class Kind { Number, Bytes };
+    /// The value, of the type that the library's function wants. Throws UsageError.
+    using Parser = std::function<std::any(std::span<const std::string> words)>;
 
     std::string name;
     std::string help; ///< what it means, with its unit
-    Kind kind = Kind::Number;
-    int64_t lowest = 0;  ///< of a number
-    int64_t highest = 0; ///< of a number
-    size_t maxBytes = 0; ///< of bytes
-    std::string rangeText() const;
+    std::string form; ///< how it is written, with its range
+    Parser parse;
+    bool takesRest = false; ///< takes all words that are left, even none, instead of one
+    std::string details;    ///< further lines of help
 };
+
+std::string rangeText(int64_t lowest, uint64_t highest);
+
+[[noreturn]] void refuseNumber(std::string_view where, std::string_view word, const std::string& range);
+
+/// A decimal number, or a hexadecimal one behind 0x; nothing when the word is none or T can't hold it.
+template <typename T>
+std::optional<T> toNumber(std::string_view word)
+{
+    const size_t sign = word.starts_with('-') ? 1 : 0;
+    const std::string_view prefix = word.substr(sign, 2);
+    const bool hexadecimal = prefix == "0x" || prefix == "0X";
+    std::string digits(word);
+    digits.erase(sign, hexadecimal ? 2 : 0);
+    const char* end = digits.data() + digits.size();
+    T value = 0;
+    const auto [stop, error] = std::from_chars(digits.data(), end, value, hexadecimal ? 16 : 10);
+    return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
+}
+
+/// As toNumber. Throws UsageError, naming `where`, for what is no number or out of the range.
+template <typename T>
+T parseNumber(std::string_view where, std::string_view word, T lowest = std::numeric_limits<T>::lowest(),
+              T highest = std::numeric_limits<T>::max())
+{
+    const auto value = toNumber<T>(word);
+    if (!value || *value < lowest || *value > highest) {
+        refuseNumber(where, word, rangeText(lowest, highest));
+    }
+    return *value;
+}
+
+/// Hexadecimal digits, or the contents of @FILE. Throws UsageError, naming `where`.
+std::vector<uint8_t> parseBytes(std::string_view where, const std::string& word, size_t least, size_t most);
 
 /// A number of type T, or in a range of its own.
 template <typename T>
-Argument number(std::string name, std::string help, int64_t lowest = std::numeric_limits<T>::lowest(),
-                int64_t highest = std::numeric_limits<T>::max())
+Argument number(std::string name, std::string help, T lowest = std::numeric_limits<T>::lowest(),
+                T highest = std::numeric_limits<T>::max())
 {
-    return {std::move(name), std::move(help), Argument::Kind::Number, lowest, highest, 0};
+    const auto parse = [=](std::span<const std::string> words) -> std::any {
+        return parseNumber<T>(name, words.front(), lowest, highest);
+    };
+    return {name, std::move(help), rangeText(lowest, highest), parse};
 }
 
-/// Bytes: hexadecimal digits, or @FILE.
-Argument bytes(std::string name, std::string help, size_t maxBytes);
+/// A std::vector<uint8_t>: hexadecimal digits, or @FILE.
+Argument bytes(std::string name, std::string help, size_t least, size_t most);
+
+/// A std::vector<int>: numbers with commas between them, or - for none.
+Argument list(std::string name, std::string help, size_t most);
 
 /// The checked values of one call.
 class Arguments {
 public:
     /// Throws UsageError for a word that does not fit its argument.
-    Arguments(const std::vector<Argument>& descriptions, const std::vector<std::string>& words);
+    Arguments(const std::vector<Argument>& descriptions, std::span<const std::string> words);
 
-    template <typename T = int>
-    T number(std::string_view name) const
+    /// A value, by its place among the arguments and in the type that its argument makes.
+    template <typename T>
+    const T& at(size_t index) const
     {
-        return static_cast<T>(find(name).number);
+        return std::any_cast<const T&>(mValues.at(index));
     }
-    const std::vector<uint8_t>& bytes(std::string_view name) const { return find(name).bytes; }
 
 private:
-    struct Value {
-        int64_t number = 0;
-        std::vector<uint8_t> bytes;
-    };
-    static Value parse(const Argument& argument, const std::string& word);
-    const Value& find(std::string_view name) const;
-
-    std::map<std::string, Value, std::less<>> mValues;
+    std::vector<std::any> mValues;
 };
 
 } // namespace radioctl

@@ -1,5 +1,6 @@
 #include "radioctl/batch.h"
 
+#include "radioctl/command.h"
 #include "radioctl/print.h"
 
 #include <fmt/format.h>
@@ -53,12 +54,7 @@ int runBatch(std::istream& input, const std::string& inputName, const Session& s
             if (words.empty()) {
                 continue;
             }
-            const Request* request = findRequest(words.front());
-            if (request == nullptr) {
-                throw UsageError(fmt::format("no request is called '{}'", words.front()));
-            }
-            const Arguments arguments(request->arguments, {words.begin() + 1, words.end()});
-            status = printOutcome(*request, session.run(*request, arguments), json);
+            status = parseCommand(words, json)(session);
         } catch (const UsageError& error) {
             fmt::print(stderr, "radioctl: {}\n", error.what());
             status = kExitUsage;

@@ -13,7 +13,7 @@ namespace radioctl {
 /// Throws UsageError for a quote without end.
 std::vector<std::string> splitWords(std::string_view line);
 
-/// Runs each line of `input` as one request, in order, and stops at the first that does not succeed; its
+/// Runs each line of `input` as one command, in order, and stops at the first that does not succeed; its
 /// place is told on standard error. Returns the exit status.
 int runBatch(std::istream& input, const std::string& inputName, const Session& session, bool json);
 

@@ -1,5 +1,7 @@
 /// radioctl: every request of the library from the command line.
 #include "radioctl/batch.h"
+#include "radioctl/command.h"
+#include "radioctl/event_stream.h"
 #include "radioctl/print.h"
 
 #include <CLI/CLI.hpp>
@@ -22,7 +24,9 @@ struct Options {
 constexpr char kFooter[] = R"(
 Commands:
   list              all requests
-  batch FILE        run the requests in FILE, one per line; - is standard input
+  batch FILE        run the commands in FILE, one per line; - is standard input
+  events [NAMES]    print events as they come; events --help tells their names
+  sim COMMAND       command the simulated modem: sim --help
   REQUEST [ARGS]    send one request and print its answer
   REQUEST --help    tell its arguments
 
@@ -50,29 +54,68 @@ int batch(const Options& options)
     return runBatch(name == "-" ? std::cin : file, name, session, options.json);
 }
 
+int events(const Options& options)
+{
+    CLI::App app("Print events as they come.", "radioctl events");
+    StreamOptions stream;
+    std::vector<std::string> then;
+    app.add_option("NAMES", stream.names, "which events (default: all)");
+    app.add_option("--count", stream.count, "stop after so many (default: at Ctrl-C)")
+        ->check(CLI::PositiveNumber);
+    app.add_option("--do", then, "a command to run once the events are subscribed; may be given repeatedly")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    app.footer("Events:\n" + eventList());
+    std::vector<std::string> words(options.words.rbegin(), options.words.rend() - 1);
+    try {
+        app.parse(words);
+    } catch (const CLI::CallForHelp&) {
+        fmt::print("{}", app.help());
+        return kExitSuccess;
+    }
+    stream.instance = options.session.instance;
+    stream.json = options.json;
+    std::vector<Command> commands;
+    for (const std::string& line : then) {
+        commands.push_back(parseCommand(splitWords(line), options.json));
+    }
+    holdSignals();
+    const Session session(options.session);
+    return streamEvents(stream, [&] {
+        for (const Command& command : commands) {
+            if (const int status = command(session); status != kExitSuccess) {
+                return status;
+            }
+        }
+        return kExitSuccess;
+    });
+}
+
 int run(const Options& options)
 {
-    const std::string& command = options.words.front();
-    if (command == "list") {
+    const std::string& name = options.words.front();
+    const bool wantsHelp = std::any_of(options.words.begin() + 1, options.words.end(), isHelp);
+    if (name == "list") {
         fmt::print("{}", requestList(options.json));
         return kExitSuccess;
     }
-    if (command == "batch") {
+    if (name == "batch") {
         return batch(options);
     }
-    const Request* request = findRequest(command);
-    if (request == nullptr) {
-        throw UsageError(fmt::format("no request is called '{}'; 'radioctl list' shows them all", command));
+    if (name == "events") {
+        return events(options);
     }
-    const std::vector<std::string> words(options.words.begin() + 1, options.words.end());
-    if (std::ranges::any_of(words,
-                            [](const std::string& word) { return word == "--help" || word == "-h"; })) {
+    if (wantsHelp && name == "sim") {
+        fmt::print("{}\n", kSimUsage);
+        return kExitSuccess;
+    }
+    if (const Request* request = findRequest(name); wantsHelp && request != nullptr) {
         fmt::print("radioctl {}", request->usage());
         return kExitSuccess;
     }
-    const Arguments arguments(request->arguments, words);
+    const Command command = parseCommand(options.words, options.json);
     const Session session(options.session);
-    return printOutcome(*request, session.run(*request, arguments), options.json);
+    return command(session);
 }
 
 } // namespace

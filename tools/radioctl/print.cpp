@@ -49,13 +49,16 @@ std::string table(const Json& rows)
 
 } // namespace
 
-std::string asTable(const Json& record)
+std::string asTable(Json record)
 {
+    if (record.value("failure", 1) == 0) {
+        record.erase("failure"); // no news
+    }
     size_t width = 0;
     for (const auto& [name, value] : record.items()) {
         width = std::max(width, isTable(value) ? 0 : name.size());
     }
-    std::string text;
+    std::string text = record.empty() ? "ok\n" : "";
     for (const auto& [name, value] : record.items()) {
         text += isTable(value) ? fmt::format("{} ({})\n{}", name, value.size(), table(value))
                                : fmt::format("{:<{}}  {}\n", name, width, cellText(value));

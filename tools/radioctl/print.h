@@ -13,8 +13,9 @@ inline constexpr int kExitFailure = 1;
 inline constexpr int kExitUsage = 2;
 inline constexpr int kExitTimeout = 3;
 
-/// A record as text: its values one below the other, its lists of records as tables.
-std::string asTable(const Json& record);
+/// A record as text: its values one below the other, its lists of records as tables; "ok" when nothing is to
+/// be told.
+std::string asTable(Json record);
 
 /// Prints an outcome, an answer to standard output and a failure to standard error, and returns the exit
 /// status.

@@ -30,20 +30,23 @@ std::string Request::usage() const
 {
     std::string text = name();
     for (const Argument& argument : arguments) {
-        text += fmt::format(" {}", argument.name);
+        text += argument.takesRest ? fmt::format(" [{}...]", argument.name) : " " + argument.name;
     }
     text += fmt::format("\n\n{}\n", help);
     for (const Argument& argument : arguments) {
-        text += fmt::format("\n  {:<18} {} ({})", argument.name, argument.help, argument.rangeText());
+        text += fmt::format("\n  {:<18} {} ({})", argument.name, argument.help, argument.form);
+        text += argument.details.empty() ? "" : "\n" + argument.details;
     }
-    return text + (arguments.empty() ? "" : "\n");
+    return text + (text.ends_with('\n') ? "" : "\n");
 }
 
 const std::vector<Request>& requests()
 {
     static const std::vector<Request> all = [] {
         std::vector<Request> rows;
-        for (auto part : {cellRequests, deviceRequests, nvRequests}) {
+        for (auto part : {cellRequests, deviceRequests, antennaRequests, powerRequests, sceneRequests,
+                          simRequests, serviceRequests, networkRequests, coexistenceRequests,
+                          indicationRequests, metricsRequests, atomRequests, nvRequests}) {
             std::ranges::move(part(), std::back_inserter(rows));
         }
         return rows;

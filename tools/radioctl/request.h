@@ -46,6 +46,16 @@ const Request* findRequest(std::string_view name);
 /// The parts of the table.
 std::vector<Request> cellRequests();
 std::vector<Request> deviceRequests();
+std::vector<Request> antennaRequests();
+std::vector<Request> powerRequests();
+std::vector<Request> sceneRequests();
+std::vector<Request> simRequests();
+std::vector<Request> serviceRequests();
+std::vector<Request> networkRequests();
+std::vector<Request> coexistenceRequests();
+std::vector<Request> indicationRequests();
+std::vector<Request> metricsRequests();
+std::vector<Request> atomRequests();
 std::vector<Request> nvRequests();
 
 } // namespace radioctl

@@ -1,50 +1,75 @@
+#include "radioctl/call.h"
 #include "radioctl/describe.h"
 
 namespace radioctl {
 
 template <>
-inline constexpr auto kMembers<RadioModemVerdict> =
-    std::tuple{member("failure", &RadioModemVerdict::failure)};
-
-template <>
 inline constexpr auto kMembers<RadioServiceMode> =
     std::tuple{member("serviceMode", &RadioServiceMode::serviceMode)};
+
+template <>
+inline constexpr auto kMembers<RadioFeatureState> = std::tuple{member("state", &RadioFeatureState::state)};
 
 std::vector<Request> deviceRequests()
 {
     const std::string group = "Device and modes";
+    const Argument feature = number<int>("feature", "which feature");
     return {
         {"radioSendScreenState",
          group,
          "Tell the modem whether the screen is on",
          {number<int>("screenState", "0 off, 1 on")},
-         [](const Arguments& in, Reply to) {
-             return radioSendScreenState(in.number("screenState"), to.userData, to.callback);
-         },
+         call(radioSendScreenState),
          nullptr},
         {"radioSetMicroMotionState",
          group,
          "Tell the modem how the device is moving",
          {number<int>("microMotionState", "the motion detector's state"),
           number<int>("multiplier", "its multiplier")},
-         [](const Arguments& in, Reply to) {
-             return radioSetMicroMotionState(in.number("microMotionState"), in.number("multiplier"),
-                                             to.userData, to.callback);
-         },
+         call(radioSetMicroMotionState),
          show(&Rsp::microMotion)},
-        {"radioSetSarState",
+        {"radioSetSyncWithAp",
          group,
-         "Set the state of one source of SAR decisions",
-         {number<int>("source", "which source"), number<int>("state", "its state")},
-         [](const Arguments& in, Reply to) {
-             return radioSetSarState(in.number("source"), in.number("state"), to.userData, to.callback);
-         },
+         "Tell the modem whether to keep in step with the application processor",
+         {number<int>("sync", "0 no, 1 yes")},
+         call(radioSetSyncWithAp),
+         nullptr},
+        {"radioSetFeatureState",
+         group,
+         "Switch a modem feature",
+         {feature, number<int>("state", "its state")},
+         call(radioSetFeatureState),
+         nullptr},
+        {"radioGetFeatureState",
+         group,
+         "The state of a modem feature",
+         {feature},
+         call(radioGetFeatureState),
+         show(&Rsp::featureState)},
+        {"radioDispatchCase",
+         group,
+         "Run one of the modem's prepared cases",
+         {number<unsigned>("caseId", "which case"), number<int>("param1", "its first parameter"),
+          number<int>("param2", "its second parameter"), number<int>("param3", "its third parameter")},
+         call(radioDispatchCase),
+         nullptr},
+        {"radioSetDiagnoseConfig",
+         group,
+         "Set the values of one kind of diagnosis",
+         {number<unsigned>("type", "which kind"), list("values", "the values", 65535)},
+         callWithList(radioSetDiagnoseConfig),
+         nullptr},
+        {"radioSetSidoIssueConfig",
+         group,
+         "Configure the detection of issues of the single-inductor dual-output converter",
+         {list("values", "the values", kRadioMaxSidoIssueValues)},
+         callWithList(radioSetSidoIssueConfig),
          nullptr},
         {"radioGetServiceMode",
          group,
          "The UE mode of operation: 0 PS mode 2, 1 CS/PS mode 1, 2 CS/PS mode 2, 3 PS mode 1",
          {},
-         [](const Arguments&, Reply to) { return radioGetServiceMode(to.userData, to.callback); },
+         call(radioGetServiceMode),
          show(&Rsp::serviceModeInfo)},
     };
 }

@@ -62,16 +62,16 @@ char letterOf(int priority)
 
 std::string format(const char* fmt, va_list arguments)
 {
-    va_list again;
-    va_copy(again, arguments);
+    va_list first;
+    va_copy(first, arguments);
     char shortText[512];
-    const int length = std::vsnprintf(shortText, sizeof shortText, fmt, arguments);
-    std::string text(shortText, std::min(sizeof shortText - 1, static_cast<size_t>(std::max(length, 0))));
-    if (length >= static_cast<int>(sizeof shortText)) {
-        text.resize(static_cast<size_t>(length));
-        std::vsnprintf(text.data(), text.size() + 1, fmt, again);
+    const int length = std::vsnprintf(shortText, sizeof shortText, fmt, first);
+    va_end(first);
+    if (length < static_cast<int>(sizeof shortText)) {
+        return {shortText, static_cast<size_t>(std::max(length, 0))};
     }
-    va_end(again);
+    std::string text(static_cast<size_t>(length), '\0');
+    std::vsnprintf(text.data(), text.size() + 1, fmt, arguments);
     return text;
 }
 

@@ -8,8 +8,7 @@ namespace host {
 
 class EmbeddedLink : public Link, private sim::Output {
 public:
-    EmbeddedLink(sim::Scenario scenario, LinkEvents& events)
-        : mEvents(events), mModem(std::move(scenario), *this)
+    EmbeddedLink(const sim::Scenario& scenario, LinkEvents& events) : mEvents(events), mModem(scenario, *this)
     {}
 
     void open() override { mIsOpen = true; }

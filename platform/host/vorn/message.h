@@ -74,7 +74,7 @@ private:
     size_t mCapacity = kInlineSize;
     size_t mSize = 0;
     size_t mLast = 0;             ///< where the last record begins
-    uint8_t mInline[kInlineSize]; // NOLINT(*-member-init): only what was added is ever read
+    uint8_t mInline[kInlineSize]; ///< only what was added is ever read
 };
 
 struct MessageDeleter {

@@ -28,7 +28,7 @@ Library& library()
 /// The device to open. The environment's name goes first, since callers cut the names that they pass on.
 std::string deviceName()
 {
-    if (const char* device = std::getenv("RADIO_VORN_DEVICE"); device != nullptr) {
+    if (const char* device = std::getenv("RADIO_VORN_DEVICE"); device != nullptr && *device != '\0') {
         return device;
     }
     const std::lock_guard lock(library().mutex);

@@ -4,6 +4,7 @@
 #include "mindroid/object.h"
 
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <vector>
 
@@ -13,9 +14,9 @@ class Parcel : public Object {
 public:
     static sp<Parcel> obtain() { return make<Parcel>(); }
 
-    void putBoolean(bool value);
-    void putByte(int8_t value);
-    void putInt(int32_t value);
+    void putBoolean(bool value) { put(Kind::Boolean, value); }
+    void putByte(int8_t value) { put(Kind::Byte, value); }
+    void putInt(int32_t value) { put(Kind::Int, value); }
     void putString(std::string_view value);
 
     /// Reading starts again at the first value.
@@ -24,17 +25,50 @@ public:
 
     /// Each get throws ParcelException, and stays where it is, when no value is left or the next one is of
     /// another kind.
-    bool getBoolean();
-    int8_t getByte();
-    int32_t getInt();
+    bool getBoolean() { return get<bool>(Kind::Boolean); }
+    int8_t getByte() { return get<int8_t>(Kind::Byte); }
+    int32_t getInt() { return get<int32_t>(Kind::Int); }
     std::string_view getString(); ///< valid as long as the parcel and until the next put
 
 private:
-    uint8_t* append(size_t size);
-    const uint8_t* peek(uint8_t kind) const;
+    /// Stands in front of every value, so that reading another kind is noticed.
+    enum class Kind : uint8_t { Boolean, Byte, Int, String };
 
-    std::vector<uint8_t> mData; ///< larger than what was written
-    size_t mEnd = 0;
+    /// Room for `size` more bytes. The buffer is larger than what was written: to grow it value by value
+    /// would cost more than the values do.
+    uint8_t* append(size_t size)
+    {
+        if (mData.size() - mEnd < size) {
+            grow(size);
+        }
+        uint8_t* place = mData.data() + mEnd;
+        mEnd += size;
+        return place;
+    }
+
+    template <typename T>
+    void put(Kind kind, T value)
+    {
+        uint8_t* place = append(1 + sizeof value);
+        *place = static_cast<uint8_t>(kind);
+        std::memcpy(place + 1, &value, sizeof value);
+    }
+
+    template <typename T>
+    T get(Kind kind)
+    {
+        checkNext(kind);
+        T value;
+        std::memcpy(&value, mData.data() + mPosition + 1, sizeof value);
+        mPosition += 1 + sizeof value;
+        return value;
+    }
+
+    void grow(size_t size);
+    void checkNext(Kind kind) const;
+
+    std::vector<uint8_t> mData;
+    size_t mEnd = 0; ///< of what was written
     size_t mPosition = 0;
 };
 

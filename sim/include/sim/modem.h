@@ -46,7 +46,7 @@ public:
     ~Modem();
 
     /// Takes one request. Its answer may come at once, later, twice or never, as the scenario's faults have
-    /// it.
+    /// it. Indications that it causes follow the answer.
     void receive(ClientId client, const vorn_msg_t& request, TimePoint now);
 
     /// When advance() has something to do next; nothing when it has not.
@@ -55,7 +55,8 @@ public:
     /// Does what has become due.
     void advance(TimePoint now);
 
-    /// Forgets what is still to be answered: the client's link is gone. The state of the modem stays.
+    /// Forgets what is still to be answered and ends the periodic reports that the client asked for: its link
+    /// is gone. The state of the modem stays.
     void forget(ClientId client);
 
     /// A command to the simulation itself, not to the modem. The answer holds "ok", and "error" when that is
@@ -63,7 +64,8 @@ public:
     ///   {"command": "state"}                         adds "slots": what each slot of the modem is like
     ///   {"command": "fault-add", "fault": FAULT}     a fault as scenarios write it
     ///   {"command": "fault-clear"}
-    ///   {"command": "indicate", "message": NAME, "slot": N, "fields": {NAME: VALUE...}}
+    ///   {"command": "indicate", "message": NAME, "slot": N, "fields": {NAME: VALUE...} or "value": NUMBER,
+    ///    "times": N}                                 an indication as scenarios write it, right now
     ///   {"command": "restart"}                       drops the links; all but the NV items starts anew
     ///   {"command": "load", "scenario": SCENARIO}    everything starts anew, links stay
     nlohmann::json control(const nlohmann::json& command, TimePoint now);

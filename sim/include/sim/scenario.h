@@ -1,4 +1,21 @@
 /// What a simulated modem starts with, read from a JSON file or built in.
+///
+/// sim/default_scenario.json is the built-in one and shows every member; a file names only what it wants
+/// different. Objects are laid over the built-in ones member by member, the entries of "slots" one by one;
+/// any other list replaces the built-in one, and null removes it. A "comment" may stand in every object.
+///   "settings"  [{"message": REQUEST, "fields": {NAME: VALUE...}}]: what setters left behind; no indication
+///               comes of them
+///   "at"        AT commands carried out beforehand
+///   "timeline"  [{"at": MS, "slot": N, "message": INDICATION, "fields": {NAME: VALUE...}, "times": N}].
+///               Fields that are not given tell of the slot as it is then. "value": NUMBER may stand in place
+///               of the fields of an indication that has only one, a number. The name may be written in
+///               short, "test" or "veyra-cell-info", and times is for bursts.
+///   "faults"    [{"match": {"message": REQUEST, "at": COMMAND, "slot": N}, "action": ACTION,
+///                "count": N or "probability": P, "ms": TIME, "result": CODE}]; without match it strikes
+///                everything.
+///               Actions: drop delay late result duplicate truncate garble wrong_transaction disconnect
+///               restart.
+/// Messages and fields are named as in protocol/messages.json; raw bytes are hexadecimal digits.
 #pragma once
 
 #include <nlohmann/json.hpp>

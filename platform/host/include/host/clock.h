@@ -1,5 +1,5 @@
-/// The time that the host's libraries live by. It runs with the machine's monotonic clock until a test stops it and
-/// steps it by hand.
+/// The time that the host's libraries live by. It runs with the machine's monotonic clock until a test stops
+/// it and steps it by hand.
 #pragma once
 
 #include <chrono>
@@ -19,8 +19,8 @@ public:
     static void advance(Duration duration); ///< steps a frozen clock and wakes everybody who waits on it
     static void thaw();
 
-    /// Waits until `ready()` or until this clock reaches `deadline`; returns what `ready()` says then. The lock is
-    /// held whenever `ready` runs. TimePoint::max() means no deadline.
+    /// Waits until `ready()` or until this clock reaches `deadline`; returns what `ready()` says then. The
+    /// lock is held whenever `ready` runs. TimePoint::max() means no deadline.
     template <typename Ready>
     static bool waitUntil(std::condition_variable& condition, std::unique_lock<std::mutex>& lock,
                           TimePoint deadline, Ready ready)

@@ -16,8 +16,8 @@ struct LogLine {
 
 using LogSink = std::function<void(const LogLine&)>;
 
-/// Gives every line of every priority to `sink` instead of standard error, from whichever thread logs; an empty sink
-/// restores the default. When it returns, the previous sink is not running any more.
+/// Gives every line of every priority to `sink` instead of standard error, from whichever thread logs; an
+/// empty sink restores the default. When it returns, the previous sink is not running any more.
 void setLogSink(LogSink sink);
 
 } // namespace host

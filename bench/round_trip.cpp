@@ -1,0 +1,185 @@
+#include "round_trip.h"
+
+#include "allocations.h"
+#include "host/device.h"
+#include "radio_apis/radio_apis.h"
+#include "vorn/vorn_msg.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <memory>
+#include <semaphore>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+std::binary_semaphore answered(0);
+
+constexpr int kTimesPerPair = 200;
+
+/// A scenario whose modem has as many neighbours as a record holds.
+std::string writeScenario()
+{
+    const std::string file = "/tmp/radio_bench_scenario.json";
+    std::ofstream out(file);
+    out << R"({"slots": [{"neighbours": [)";
+    for (int i = 0; i < 64; ++i) {
+        out << (i == 0 ? "" : ",")
+            << R"({"rat": "LTE", "arfcn": 1300, "band": 3, "rsrp": -90, "rsrq": -10, "sinr": 9)"
+            << R"(, "cellIdentity": 1, "pci": )" << i << "}";
+    }
+    out << "]}]}";
+    return file;
+}
+
+double nanosecondsOf(void (*roundTrip)())
+{
+    const auto begin = Clock::now();
+    for (int i = 0; i < kTimesPerPair; ++i) {
+        roundTrip();
+    }
+    return std::chrono::duration<double, std::nano>(Clock::now() - begin).count() / kTimesPerPair;
+}
+
+double median(std::vector<double> values)
+{
+    std::ranges::nth_element(values, values.begin() + static_cast<long>(values.size() / 2));
+    return values[values.size() / 2];
+}
+
+double allocationsOf(void (*roundTrip)())
+{
+    const size_t before = allocationsOfThisThread();
+    roundTrip();
+    return static_cast<double>(allocationsOfThisThread() - before);
+}
+
+void onResult(void*, RADIO_APIS_RESULT, RadioApisResultType*)
+{
+    answerCame();
+}
+
+void onAnswer(vorn_msg_t* answer, void*)
+{
+    benchmark::DoNotOptimize(vorn_msg_get_val_ptr(answer, 0, nullptr));
+    answerCame();
+}
+
+/// Sends a finished message, and frees it.
+void send(vorn_msg_t* request)
+{
+    vorn_msg_async_api(request, onAnswer, 0, nullptr);
+    vorn_msg_deinit(request);
+    waitForAnswer();
+}
+
+void addInt32(vorn_msg_t* message, uint16_t tag, int32_t value)
+{
+    vorn_msg_add_tlv(message, tag, sizeof value, &value);
+}
+
+void voidRequest(benchmark::State& state)
+{
+    comparePairs(
+        state,
+        [] {
+            radioSetSarState(1, 2, nullptr, onResult);
+            waitForAnswer();
+        },
+        [] {
+            vorn_msg_t* request = vorn_msg_init(0x3895, 1);
+            addInt32(request, 256, 1);
+            addInt32(request, 257, 2);
+            send(request);
+        });
+}
+BENCHMARK(voidRequest)->Unit(benchmark::kMillisecond);
+
+void allCells64(benchmark::State& state)
+{
+    comparePairs(
+        state,
+        [] {
+            radioGetAllCellularCellInfo(nullptr, onResult);
+            waitForAnswer();
+        },
+        [] { send(vorn_msg_init(0x3821, 1)); });
+}
+BENCHMARK(allCells64)->Unit(benchmark::kMillisecond);
+
+const RadioActionConfigType& action()
+{
+    static const auto full = [] {
+        auto config = std::make_unique<RadioActionConfigType>();
+        config->cellsPresent = 1;
+        config->first = {1, 64, {}};
+        config->second = {1, 64, {}};
+        return config;
+    }();
+    return *full;
+}
+
+void networkAction128(benchmark::State& state)
+{
+    comparePairs(
+        state,
+        [] {
+            radioSendNetworkAction(action(), nullptr, onResult);
+            waitForAnswer();
+        },
+        [] {
+            static const std::vector<uint8_t> block(28046);
+            vorn_msg_t* request = vorn_msg_init(0x3871, 1);
+            for (uint16_t tag = 256; tag <= 261; ++tag) {
+                addInt32(request, tag, 0);
+            }
+            vorn_msg_add_array(request, 262, 0);
+            vorn_msg_add_tlv(request, 263, static_cast<uint16_t>(block.size()), block.data());
+            send(request);
+        });
+}
+BENCHMARK(networkAction128)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+void openLibrary()
+{
+    setenv("RADIO_VORN_DEVICE", ("embedded:" + writeScenario()).c_str(), 0);
+    host::setProperty("ro.vendor.zor_vorn_support", "1");
+    if (radioApisInit(RADIO_APIS_SERVICE_MODEM, 0) != RADIO_APIS_SUCCESS) {
+        std::abort();
+    }
+}
+
+void answerCame()
+{
+    answered.release();
+}
+
+void waitForAnswer()
+{
+    answered.acquire();
+}
+
+void comparePairs(benchmark::State& state, void (*throughLibrary)(), void (*straight)())
+{
+    openLibrary();
+    std::vector<double> library;
+    std::vector<double> bare;
+    std::vector<double> ratios;
+    for (auto _ : state) {
+        bare.push_back(nanosecondsOf(straight));
+        library.push_back(nanosecondsOf(throughLibrary));
+        ratios.push_back(library.back() / bare.back());
+    }
+    state.counters["library_ns"] = median(library);
+    state.counters["straight_ns"] = median(bare);
+    state.counters["ratio"] = median(ratios);
+    const double bareAllocations = allocationsOf(straight);
+    state.counters["straight_allocs"] = bareAllocations;
+    state.counters["own_allocs"] = allocationsOf(throughLibrary) - bareAllocations;
+}

@@ -1,0 +1,115 @@
+/// Network actions: instructions of the device's network optimisation.
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+
+inline constexpr unsigned kRadioMaxActionCells = 64;
+inline constexpr unsigned kRadioMaxActionParameters = 8;
+inline constexpr unsigned kRadioMaxActionListEntries = 16;
+
+/// One parameter block, as the modem defines it.
+struct RadioActionParameter {
+    int32_t values[4];
+};
+static_assert(sizeof(RadioActionParameter) == 16);
+
+/// An entry of a cell's second list.
+struct RadioActionCellListEntry {
+    uint16_t value1;
+    uint16_t value2;
+    uint8_t value3;
+};
+static_assert(sizeof(RadioActionCellListEntry) == 6);
+
+/// A cell that an action aims at. The values are the modem's and passed through; those behind a `…Present`
+/// are sent only when that is not 0.
+struct RadioActionCellInfo {
+    uint16_t value1;
+    uint16_t value2;
+    uint8_t value3;
+    uint32_t value4;
+    uint8_t value5;
+    uint32_t value6;
+    uint16_t value7;
+    uint8_t value8;
+    uint64_t value9;
+    uint16_t aPresent;
+    uint32_t a;
+    uint16_t bPresent;
+    uint32_t b;
+    uint16_t cCount; ///< entries of `c` that are sent; of more than 16 the first 16
+    uint32_t c[kRadioMaxActionListEntries];
+    uint16_t dPresent;
+    uint32_t d;
+    uint16_t ePresent;
+    uint32_t e;
+    uint16_t fPresent;
+    uint32_t f;
+    uint16_t gPresent;
+    uint32_t g[2];
+    uint16_t hPresent;
+    uint32_t h[3];
+    uint16_t iPresent;
+    uint16_t jCount; ///< entries of `j` that are sent when `iPresent`; of more than 16 the first 16
+    RadioActionCellListEntry j[kRadioMaxActionListEntries];
+};
+
+/// A list of cells.
+struct RadioActionCellList {
+    uint8_t present; ///< 0: the list is not sent
+    uint8_t count;   ///< of more than 64 the first 64 are sent
+    RadioActionCellInfo cells[kRadioMaxActionCells];
+};
+
+/// An action. Its values are the modem's and passed through.
+struct RadioActionConfigType {
+    int32_t id;   ///< the action's number
+    int32_t type; ///< kind of action
+    int32_t values[4];
+    uint32_t parameterCount; ///< of more than 8 the first 8 are sent
+    RadioActionParameter parameters[kRadioMaxActionParameters];
+    uint8_t cellsPresent; ///< 0: nothing of what follows is sent
+    uint32_t header;
+    uint8_t headerByte;
+    uint8_t optionalPresent; ///< whether `optional` is sent
+    uint32_t optional;
+    RadioActionCellList first;
+    RadioActionCellList second;
+};
+
+/// Result of radioGetNetworkActionState.
+struct RadioNetworkActionState {
+    int32_t id;     ///< the action's number
+    int32_t state;  ///< as the modem defines it
+    int32_t detail; ///< as the modem defines it
+};
+
+extern "C" {
+
+/// Sends an action. The modem reports its outcome with RADIO_EVENT_NETWORK_ACTION_RESULT_IND.
+///
+/// @param action    see the record
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSendNetworkAction(const RadioActionConfigType& action, void* userData,
+                                     RadioRequestCallback callback);
+
+/// Undoes an action.
+///
+/// @param id        the action's number
+/// @param option    passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioRollbackNetworkAction(int id, int option, void* userData, RadioRequestCallback callback);
+
+/// The state of an action.
+///
+/// @param id        the action's number
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
+/// `rsp.networkActionState`
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetNetworkActionState(int id, void* userData, RadioRequestCallback callback);
+
+} // extern "C"

@@ -1,0 +1,95 @@
+/// Power saving, and what the modem tells of its own resources.
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+
+/// Switches of the power saving features. Requests for the modem's messages send all ten values in this
+/// order.
+struct UAIINFO {
+    int32_t cgType;  ///< the group of switches, for requests that become AT commands
+    int32_t type;    ///< what is switched; 600 makes the request an AT command
+    int32_t op;      ///< operation
+    int32_t dl;      ///< downlink value
+    int32_t ul;      ///< uplink value
+    int32_t delay;   ///< delay value
+    int32_t cnt;     ///< count value
+    int32_t value8;  ///< passed through
+    int32_t value9;  ///< passed through
+    int32_t value10; ///< passed through
+};
+static_assert(sizeof(UAIINFO) == 40);
+
+/// When the modem may rest while the device idles. As on the wire.
+struct RadioSmartIdleInfoType {
+    int32_t type;  ///< kind of idling
+    int32_t nr_t;  ///< NR: time
+    int32_t nr_c;  ///< NR: count
+    int32_t lte_t; ///< LTE: time
+    int32_t lte_c; ///< LTE: count
+};
+static_assert(sizeof(RadioSmartIdleInfoType) == 20);
+
+inline constexpr unsigned kRadioMaxHeaps = 50;
+
+/// One heap of the modem.
+struct RadioModemHeap {
+    char name[20]; ///< at most 19 characters
+    uint32_t size; ///< bytes
+    uint32_t used; ///< bytes
+};
+
+/// Result of radioGetModemHeapList.
+struct RadioModemHeapList {
+    uint32_t poolCount;   ///< 1 when the modem gave a list, 0 when it gave none
+    char poolName[20];    ///< "modem_pool"
+    uint32_t size;        ///< bytes of the pool
+    uint32_t used;        ///< bytes in use
+    uint32_t free;        ///< bytes free
+    uint32_t largestFree; ///< bytes of the largest free block
+    uint32_t heapCount;   ///< at most 50
+    RadioModemHeap heaps[kRadioMaxHeaps];
+};
+
+extern "C" {
+
+/// Sets power saving switches.
+///
+/// @param info      the switches
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback callback);
+
+/// Sets when the modem may rest.
+///
+/// @param info      sent as it is
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetSmartIdleCfg(const RadioSmartIdleInfoType& info, void* userData,
+                                   RadioRequestCallback callback);
+
+/// Switches the power boost.
+///
+/// @param state     passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetPowerBoostState(int state, void* userData, RadioRequestCallback callback);
+
+/// Has the modem take its power statistics.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.powerStatistics`,
+/// whose
+///                  `failure` tells of the modem's failure
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetPowerStatistics(void* userData, RadioRequestCallback callback);
+
+/// What the modem's memory is used for.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.modemHeapList`;
+/// with
+///                  RADIO_APIS_INVALID_PARAMETER and no record when the modem lists more than 50 heaps
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetModemHeapList(void* userData, RadioRequestCallback callback);
+
+} // extern "C"

@@ -1,0 +1,124 @@
+/// What the device is used for, and how the modem adapts to it.
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+
+/// A list of at most ten values.
+struct RadioHyperUplinkList {
+    uint32_t count; ///< at most 10; more are not sent
+    int32_t values[10];
+};
+
+/// Parameters of the uplink enhancement: sixteen values as the modem defines them, and two lists.
+struct RadioHyperUplinkParasType {
+    int32_t values[16];
+    RadioHyperUplinkList list1;
+    RadioHyperUplinkList list2;
+};
+
+/// One cell of a site. As on the wire.
+struct RadioSiteCell {
+    uint32_t arfcn; ///< downlink EARFCN or NR-ARFCN
+    uint32_t pci;   ///< physical cell identity
+};
+
+/// The cells of a site. As on the wire.
+struct RadioSiteCellInfoType {
+    uint32_t rat;    ///< 4: LTE, 5: NR
+    uint32_t siteId; ///< number of the site
+    uint32_t count;  ///< cells in the list
+    RadioSiteCell cells[64];
+};
+static_assert(sizeof(RadioSiteCellInfoType) == 524);
+
+/// One score. As on the wire.
+struct RadioScoreInfo {
+    int32_t id;        ///< what is rated
+    int32_t score;     ///< how good it is
+    int32_t values[6]; ///< passed through
+};
+static_assert(sizeof(RadioScoreInfo) == 32);
+
+inline constexpr unsigned kRadioMaxScores = 16;
+
+struct RadioScoreInfoListType {
+    uint32_t count; ///< at most 16; more are not sent
+    RadioScoreInfo scores[kRadioMaxScores];
+};
+
+inline constexpr unsigned kRadioMaxScenes = 64;
+
+/// The mode of one scene.
+struct RadioSceneMode {
+    int32_t scene;
+    int32_t mode; ///< as last set
+};
+
+/// Result of radioGetSceneMode.
+struct RadioSceneModeList {
+    uint32_t count; ///< at most 64
+    RadioSceneMode scenes[kRadioMaxScenes];
+};
+
+extern "C" {
+
+/// Switches the uplink enhancement.
+///
+/// @param mode      passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetHyperUplinkMode(int mode, void* userData, RadioRequestCallback callback);
+
+/// Sets the parameters of the uplink enhancement.
+///
+/// @param paras     see the record
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetHyperUplinkParas(const RadioHyperUplinkParasType& paras, void* userData,
+                                       RadioRequestCallback callback);
+
+/// Sets the mode of a scene.
+///
+/// @param scene     which scene
+/// @param mode      its mode, passed through
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetSceneMode(int scene, int mode, void* userData, RadioRequestCallback callback);
+
+/// The modes of scenes.
+///
+/// @param scenes    which scenes; may be null when `count` is 0
+/// @param count     their number; of more than 64 the first 64 are asked for
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.sceneModes`
+/// @return 0 when handed to the modem; 11 for null scenes; 1 when refused otherwise
+RADIO_API int radioGetSceneMode(int* scenes, unsigned int count, void* userData,
+                                RadioRequestCallback callback);
+
+/// Tells the modem how good the user's experience is.
+///
+/// @param type      what is rated
+/// @param score     how good it is
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetQoeScore(int type, int score, void* userData, RadioRequestCallback callback);
+
+/// Tells the modem scores of its own services.
+///
+/// @param scores    see the record
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSendScoreInfo(const RadioScoreInfoListType& scores, void* userData,
+                                 RadioRequestCallback callback);
+
+/// Tells the modem the cells of a site.
+///
+/// @param action    not sent
+/// @param info      sent as it is
+/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetSiteCellInfo(int action, const RadioSiteCellInfoType& info, void* userData,
+                                   RadioRequestCallback callback);
+
+} // extern "C"

@@ -1,0 +1,27 @@
+#include "api/registry.h"
+#include "radio_apis/power.h"
+
+int radioSetPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setPowerSavingState, info, userData, callback);
+}
+
+int radioSetSmartIdleCfg(const RadioSmartIdleInfoType& info, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setSmartIdleCfg, info, userData, callback);
+}
+
+int radioSetPowerBoostState(int state, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setPowerBoostState, state, userData, callback);
+}
+
+int radioGetPowerStatistics(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::getPowerStatistics, userData, callback);
+}
+
+int radioGetModemHeapList(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::getModemHeapList, userData, callback);
+}

@@ -1,0 +1,27 @@
+#include "api/registry.h"
+#include "radio_apis/sar.h"
+
+int radioSetSarState(int source, int state, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setSarState, source, state, userData, callback);
+}
+
+int radioSetSarDsiState(int state, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setSarDsiState, state, userData, callback);
+}
+
+int radioGetSarDsiState(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::getSarDsiState, userData, callback);
+}
+
+int radioSetRtSarMode(int mode, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setRtSarMode, mode, userData, callback);
+}
+
+int radioSetSarRegionCode(int regionCode, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setSarRegionCode, regionCode, userData, callback);
+}

@@ -1,0 +1,43 @@
+#include "api/registry.h"
+#include "radio_apis/sim.h"
+
+int radioGetSimTrayStatus(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::getSimTrayStatus, userData, callback);
+}
+
+int radioSetCarrierLockBlob(const unsigned char* data, unsigned int length, void* userData,
+                            RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setSmlBlob, data, length, userData, callback);
+}
+
+int radioSetCarrierLockStatus(const unsigned char* data, unsigned int length, void* userData,
+                              RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setSmlStatus, data, length, userData, callback);
+}
+
+int radioGetCarrierLockStatus(const unsigned char* data, unsigned int length, void* userData,
+                              RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::getSmlStatus, data, length, userData, callback);
+}
+
+int radioSetRegionLockBlob(const unsigned char* data, unsigned int length, void* userData,
+                           RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setRlkBlob, data, length, userData, callback);
+}
+
+int radioSetRegionLockStatus(const unsigned char* data, unsigned int length, void* userData,
+                             RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::setRlkStatus, data, length, userData, callback);
+}
+
+int radioGetRegionLockStatus(const unsigned char* data, unsigned int length, void* userData,
+                             RadioRequestCallback callback)
+{
+    return forward(__func__, &VornVsClient::getRlkStatus, data, length, userData, callback);
+}

@@ -1,0 +1,273 @@
+// What the modem tells by itself: on command, as consequence of a request, and at intervals.
+#include "modem_fixture.h"
+
+namespace sim::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class Indications : public ModemTest {
+protected:
+    /// The fields of the last of the indications that a command brings.
+    std::map<uint16_t, Value> told(const std::string& name, int slot = 0, const std::string& more = "")
+    {
+        mIndications.clear();
+        const std::string command = R"({"command": "indicate", "message": ")" + name + R"(", "slot": )";
+        EXPECT_EQ(control(command + std::to_string(slot) + more + "}").dump(), R"({"ok":true})") << name;
+        return mIndications.empty() ? std::map<uint16_t, Value>() : mIndications.back().fields;
+    }
+
+    Bytes block(const std::string& name, int slot = 0, uint16_t tag = 256)
+    {
+        return std::get<Bytes>(told(name, slot)[tag]);
+    }
+
+    std::vector<uint16_t> takeIds()
+    {
+        std::vector<uint16_t> ids;
+        for (const auto& indication : std::exchange(mIndications, {})) {
+            ids.push_back(indication.header.msg_id);
+        }
+        return ids;
+    }
+};
+
+void expectFits(const std::map<uint16_t, Value>& fields, const MessageSpec& message, bool hasService)
+{
+    size_t known = 0;
+    for (const auto& spec : message.response) {
+        const auto field = fields.find(spec.tag);
+        if (field == fields.end()) {
+            EXPECT_TRUE(spec.isOptional && !hasService) << spec.name;
+            continue;
+        }
+        ++known;
+        ASSERT_EQ(std::holds_alternative<Bytes>(field->second), !spec.isArray) << spec.name;
+        std::vector<Bytes> elements;
+        if (spec.isArray) {
+            elements = std::get<std::vector<Bytes>>(field->second);
+        } else {
+            elements.push_back(std::get<Bytes>(field->second));
+        }
+        EXPECT_LE(elements.size(), spec.maxCount);
+        EXPECT_THAT(elements, testing::Each(SizeIs(
+                                  testing::AllOf(testing::Ge(spec.minLength), testing::Le(spec.maxLength)))));
+    }
+    EXPECT_EQ(fields.size(), known);
+}
+
+TEST_F(Indications, OfEveryKindAreAsTheCatalogueHasThem)
+{
+    start(R"({"slots": [{}, {"serving": null}]})");
+    ASSERT_EQ(ask(3, {{0x8100, text("AT+CFUN=1")}})[0], i32(0));
+    for (const auto& message : Protocol::instance().messages()) {
+        for (int slot = 0; slot < kSlots && message.kind == MessageKind::Indication; ++slot) {
+            SCOPED_TRACE(message.name);
+            expectFits(told(message.name, slot), message, true);
+        }
+    }
+    ASSERT_EQ(ask(3, {{0x8100, text("AT+CFUN=4")}})[0], i32(0));
+    expectFits(told("veyra-cell-info"), *Protocol::instance().find("VeyraCellInfoInd"), false);
+}
+
+TEST_F(Indications, NamesAndValuesMayBeShort)
+{
+    for (const std::string name : {"TestInd", "test-ind", "Test", "test", "0x7E02"}) {
+        EXPECT_THAT(told(name, 1, R"(, "value": -7)"), ElementsAre(testing::Pair(256, i32(-7)))) << name;
+    }
+    EXPECT_THAT(told("test", 1, R"(, "times": 3)"), ElementsAre(testing::Pair(256, i32(8))));
+    EXPECT_THAT(mIndications, SizeIs(3));
+    const auto given = told("hyper-uplink-state", 0, R"(, "fields": {"state": 6})");
+    EXPECT_THAT(given, ElementsAre(testing::Pair(256, i32(0)), testing::Pair(257, i32(6)),
+                                   testing::Pair(258, i32(0))));
+}
+
+TEST_F(Indications, CellReports)
+{
+    const Bytes answer = std::get<Bytes>(ask(0x381F)[256]);
+    const Bytes serving = block("ServingCellInfoInd");
+    EXPECT_TRUE(std::equal(answer.begin(), answer.end(), serving.begin()));
+
+    const Bytes all = block("AllCellInfoInd", 1);
+    EXPECT_EQ(toNumber<uint32_t>(all), 2U);
+    EXPECT_EQ(toNumber<uint32_t>(all, 8 + 4), 4U) << "its own subscription first";
+    EXPECT_EQ(toNumber<uint32_t>(all, 8 + 84), 4U) << "neighbours";
+    EXPECT_EQ(toNumber<uint32_t>(all, 8 + 88 + 8), 45U) << "its first neighbour";
+    EXPECT_EQ(toNumber<uint32_t>(all, 2144 + 4), 5U);
+    EXPECT_EQ(toNumber<uint32_t>(all, 2144 + 28), 0x2345C401U) << "no reserved word before the identity";
+}
+
+struct ContentsRow {
+    std::string name;
+    uint16_t field;
+    Bytes begin; ///< what the field begins with
+};
+
+TEST_F(Indications, TellOfTheirSlot)
+{
+    start(R"({"slots": [{"serving": {"rsrp": -116}}]})");
+    ask(0x3811, {{256, std::vector<Bytes>{toBytes(7), toBytes(-8)}}});
+    ask(0x3861, {{256, i32(400)}});
+    ask(0x3867, {{256, wordBlock({1, 5})}});
+    ask(0x384F, {{257, Bytes{4, 2}}});
+    ask(0x387D, {{256, u8(3)}, {257, u8(0)}, {258, u8(0)}, {259, u8(0)}});
+    const std::vector<ContentsRow> rows{
+        {"sido-issue", 256, wordBlock({2, 7, -8, 0})},
+        {"qos-period-report", 256, wordBlock({400, 1, 5, -116, -10, 18})},
+        {"qos-period-report", 256, wordBlock({400, 2})},
+        {"ims-rtp-control", 256, {5, 0}},
+        {"sml-status", 257, {4, 2}},
+        {"alert", 257, wordBlock({2})},
+        {"smart-network-select", 256, wordBlock({4, 6300, 391})},
+        {"rf-icc-clat", 256, {78, 0, 100, 0, 3, 0}},
+        {"single-sim-change", 256, {0}},
+    };
+    for (const auto& row : rows) {
+        Bytes contents = block(row.name, 0, row.field);
+        contents.resize(std::min(contents.size(), row.begin.size()));
+        EXPECT_EQ(contents, row.begin) << row.name;
+    }
+}
+
+TEST_F(Indications, MeasurementReport)
+{
+    start(R"({"slots": [{"operator": {"mcc": 460, "mnc": 123, "mncDigits": 3}}, {"serving": null}]})");
+    EXPECT_THAT(block("VeyraCellInfoInd"), ElementsAre(1));
+    const Bytes report = block("VeyraCellInfoInd", 0, 258);
+    ASSERT_THAT(report, SizeIs(2172));
+    EXPECT_EQ(report[8], 2) << "groups";
+    EXPECT_EQ(report[12 + 2], 3);
+    EXPECT_EQ(report[12 + 3], 2) << "NR frequencies";
+    EXPECT_EQ(toNumber<uint16_t>(report, 12 + 4), 0x460);
+    EXPECT_EQ(toNumber<uint16_t>(report, 12 + 6), 0x123);
+    EXPECT_EQ(toNumber<uint32_t>(report, 32), 627264U);
+    EXPECT_EQ(report[32 + 5], 3) << "cells of the first";
+    EXPECT_EQ(toNumber<uint16_t>(report, 42 + 12), 102);
+    EXPECT_EQ(toNumber<int16_t>(report, 42 + 12 + 4), -92);
+    EXPECT_EQ(toNumber<uint32_t>(report, 32 + 106), 428000U);
+    EXPECT_EQ(report[1092 + 3], 3) << "LTE frequencies";
+}
+
+TEST_F(Indications, MeasurementReportHoldsWhatItHasRoomFor)
+{
+    nlohmann::json neighbours;
+    for (int i = 0; i < 24; ++i) {
+        neighbours.push_back({{"rat", "NR"},
+                              {"band", 78},
+                              {"arfcn", i < 12 ? 1 : i},
+                              {"pci", i},
+                              {"cellIdentity", 0},
+                              {"rsrp", -90},
+                              {"rsrq", -9},
+                              {"sinr", 3}});
+    }
+    start(nlohmann::json{{"slots", {{{"neighbours", neighbours}, {"lteAnchor", nullptr}}}}}.dump());
+    const Bytes report = block("VeyraCellInfoInd", 0, 258);
+    EXPECT_EQ(report[8], 1) << "groups";
+    EXPECT_EQ(report[12 + 3], 10) << "frequencies";
+    EXPECT_EQ(report[32 + 106 + 5], 8) << "cells";
+    EXPECT_EQ(report[32 + 106 + 10 + 3], 0) << "the network of a cell without identity is not known";
+}
+
+FieldList numbers(std::initializer_list<int32_t> values)
+{
+    FieldList fields;
+    for (const int32_t value : values) {
+        fields.emplace_back(static_cast<uint16_t>(256 + fields.size()), i32(value));
+    }
+    return fields;
+}
+
+struct ConsequenceRow {
+    uint16_t id;
+    FieldList fields;
+    std::vector<uint16_t> indications;
+    FieldList last = {}; ///< fields of the last of them
+};
+
+TEST_F(Indications, FollowFromRequests)
+{
+    FieldList action = numbers({5, 8, 1, 2, 3, 4});
+    action.emplace_back(262, std::vector<Bytes>(1, Bytes(16)));
+    FieldList atom = numbers({2, 4, 7});
+    atom.emplace_back(259, Bytes(324));
+    atom.emplace_back(260, Bytes(36));
+    const std::vector<ConsequenceRow> rows{
+        {0x3801, numbers({0}), {}},
+        {0x3801, numbers({1}), {0x7E06}},
+        {0x382F, numbers({9, 2}), {0x7E18}, {{256, wordBlock({2, 9, 2})}}},
+        {0x382D, numbers({3}), {0x7E07}, numbers({9, 1, 3})},
+        {0x382F, numbers({9, 0}), {0x7E18, 0x7E07}, numbers({0, 1, 3})},
+        {0x3873, numbers({5, 8}), {}},
+        {0x3871, action, {0x7E17}, {{256, wordBlock({1, 5, 8, 0, 1, 2, 3, 4})}}},
+        {0x3873, numbers({5, 8}), {0x7E17}, {{256, wordBlock({1, 5, 8, 0, 0, 0, 0, 0})}}},
+        {0x3859, atom, {0x7E08}, {{256, wordBlock({2, 4, 7})}}},
+        {0x384D, {{256, Bytes(600, 3)}}, {0x7E0C}, {{257, Bytes(512, 3)}}},
+        {0x3855, {{257, Bytes{1, 2}}}, {0x7E0D}, {{257, Bytes{1, 2}}}},
+        {3, {{0x8100, text("AT+CFUN=4")}}, {0x7E0E}, {{256, wordBlock({0, 1})}}},
+        {3, {{0x8100, text("AT+CFUN=0")}}, {}},
+        {3, {{0x8100, text("AT+CFUN=1")}}, {0x7E0E}, {{256, wordBlock({1, 0})}}},
+        {0x3861, {{256, u8(1)}}, {}},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.id);
+        ask(row.id, row.fields);
+        if (!row.last.empty() && !mIndications.empty()) {
+            const auto last = fieldsOf(row.last);
+            EXPECT_EQ(mIndications.back().fields, (std::map<uint16_t, Value>(last.begin(), last.end())));
+        }
+        EXPECT_EQ(takeIds(), row.indications);
+    }
+}
+
+TEST_F(Indications, FollowTheAnswerWhateverBecomesOfIt)
+{
+    start(R"({"faults": [{"action": "result", "count": 1}, {"action": "drop", "count": 1},
+                         {"action": "delay", "ms": 50, "count": 1}]})");
+    send(0x3801, numbers({1}));
+    EXPECT_THAT(takeIds(), IsEmpty()) << "not carried out";
+    send(0x3801, numbers({1}));
+    EXPECT_THAT(takeIds(), SizeIs(1)) << "carried out, only the answer is lost";
+    send(0x3801, numbers({1}));
+    EXPECT_THAT(takeIds(), IsEmpty());
+    mModem->advance(mNow + 50ms);
+    EXPECT_THAT(takeIds(), SizeIs(1));
+}
+
+TEST_F(Indications, ComePeriodicallyUntilSwitchedOff)
+{
+    const FieldList policy = numbers({1, 0, 0, 0, 0, 0, 0, 0});
+    mModem->advance(mNow);
+    send(0x380F, policy);
+    send(0x3861, numbers({400}));
+    EXPECT_THAT(takeIds(), ElementsAre(0x7E03)) << "the first report comes at once";
+    mModem->advance(mNow += 1000ms);
+    EXPECT_THAT(takeIds(), ElementsAre(0x7E14, 0x7E14, 0x7E03));
+    EXPECT_EQ(mModem->nextDeadline(), mNow + 200ms);
+
+    send(0x3861, numbers({250}));
+    send(0x380F, numbers({0, 0, 0, 0, 0, 0, 0, 0}));
+    mModem->advance(mNow += 1000ms);
+    EXPECT_THAT(takeIds(), SizeIs(4));
+    send(0x3861, numbers({0}));
+    EXPECT_EQ(mModem->nextDeadline(), std::nullopt);
+
+    const std::vector<std::function<void()>> ends{
+        [&] { mModem->forget(kClient); },
+        [&] { control(R"({"command": "restart"})"); },
+        [&] { control(R"({"command": "load", "scenario": {}})"); },
+    };
+    for (const auto& end : ends) {
+        send(0x380F, policy, 2);
+        send(0x3861, numbers({1}));
+        mModem->forget(kClient + 1);
+        EXPECT_EQ(mModem->nextDeadline(), mNow + 1ms);
+        end();
+        EXPECT_EQ(mModem->nextDeadline(), std::nullopt);
+    }
+}
+
+} // namespace
+} // namespace sim::test

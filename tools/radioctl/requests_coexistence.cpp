@@ -1,0 +1,61 @@
+#include "radioctl/call.h"
+#include "radioctl/describe.h"
+
+namespace radioctl {
+
+template <>
+inline constexpr auto kMembers<RfIccInfo> =
+    std::tuple{member("mode", &RfIccInfo::mode), member("band", &RfIccInfo::band)};
+
+template <>
+inline constexpr auto kMembers<RfIccClatEntry> = std::tuple{
+    member("freq", &RfIccClatEntry::freq, "centre frequency, kHz"),
+    member("bandwidth", &RfIccClatEntry::bandwidth, "kHz"),
+    member("level", &RfIccClatEntry::level, "how much it is disturbed"),
+};
+
+template <>
+inline constexpr auto kMembers<RfIccClatKpi> = std::tuple{
+    member("freq", &RfIccClatKpi::freq, "frequency in use, kHz"),
+    member("subPolicy", &RfIccClatKpi::subPolicy),
+    countedMember("entries", &RfIccClatKpi::entries, "num", &RfIccClatKpi::num, "disturbed ranges"),
+};
+
+template <>
+inline constexpr auto kMembers<RfIccDeviceErr> = std::tuple{
+    member("type", &RfIccDeviceErr::type, "kind of error"), member("data", &RfIccDeviceErr::data, "details")};
+
+std::vector<Request> coexistenceRequests()
+{
+    const std::string group = "Coexistence with other radios";
+    using Mode = unsigned char;
+    return {
+        {"radioGetRfIccInfo",
+         group,
+         "The state of the coexistence",
+         {},
+         call(radioGetRfIccInfo),
+         show(&Rsp::rfIccInfo)},
+        {"radioSendRfIccClatKpi",
+         group,
+         "Tell the modem indicators of coexistence",
+         {record<RfIccClatKpi>("kpi", "the indicators")},
+         call(radioSendRfIccClatKpi),
+         nullptr},
+        {"radioSendRfIccModeState",
+         group,
+         "Tell the modem modes of the other radios",
+         {number<Mode>("mode1", "the first mode"), number<Mode>("mode2", "the second mode"),
+          number<Mode>("mode3", "the third mode"), number<Mode>("mode4", "the fourth mode")},
+         call(radioSendRfIccModeState),
+         nullptr},
+        {"radioSendRfIccDeviceErr",
+         group,
+         "Tell the modem an error of another radio",
+         {record<RfIccDeviceErr>("error", "the error")},
+         call(radioSendRfIccDeviceErr),
+         nullptr},
+    };
+}
+
+} // namespace radioctl

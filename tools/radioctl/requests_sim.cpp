@@ -1,0 +1,60 @@
+#include "radioctl/call.h"
+#include "radioctl/describe.h"
+
+namespace radioctl {
+
+template <>
+inline constexpr auto kMembers<RadioSimTrayStatus> =
+    std::tuple{countedMember("status", &RadioSimTrayStatus::status, "count", &RadioSimTrayStatus::count)};
+
+std::vector<Request> simRequests()
+{
+    const std::string group = "SIM trays and locks";
+    const auto lockData = [](size_t most) { return bytes("data", "the lock server's bytes", 1, most); };
+    return {
+        {"radioGetSimTrayStatus",
+         group,
+         "Whether the SIM trays are in",
+         {},
+         call(radioGetSimTrayStatus),
+         show(&Rsp::simTrayStatus)},
+        {"radioSetCarrierLockBlob",
+         group,
+         "Install a carrier lock",
+         {lockData(2048)},
+         callWithList(radioSetCarrierLockBlob),
+         show(&Rsp::simLockData)},
+        {"radioSetCarrierLockStatus",
+         group,
+         "Change the status of the carrier lock",
+         {lockData(512)},
+         callWithList(radioSetCarrierLockStatus),
+         show(&Rsp::simLockData)},
+        {"radioGetCarrierLockStatus",
+         group,
+         "Ask for the status of the carrier lock",
+         {lockData(512)},
+         callWithList(radioGetCarrierLockStatus),
+         show(&Rsp::simLockData)},
+        {"radioSetRegionLockBlob",
+         group,
+         "Install a region lock",
+         {lockData(1024)},
+         callWithList(radioSetRegionLockBlob),
+         show(&Rsp::simLockData)},
+        {"radioSetRegionLockStatus",
+         group,
+         "Change the status of the region lock",
+         {lockData(512)},
+         callWithList(radioSetRegionLockStatus),
+         show(&Rsp::simLockData)},
+        {"radioGetRegionLockStatus",
+         group,
+         "Ask for the status of the region lock",
+         {lockData(512)},
+         callWithList(radioGetRegionLockStatus),
+         show(&Rsp::simLockData)},
+    };
+}
+
+} // namespace radioctl
