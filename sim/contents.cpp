@@ -7,7 +7,7 @@ namespace {
 
 using Contents = Fields (*)(const Subject& subject);
 
-const std::unordered_map<std::string_view, Contents> kContents{
+const auto& kContents = *new const std::unordered_map<std::string_view, Contents>{
     {"AlertEventInd", alertContents},
     {"AllCellInfoInd", allCellContents},
     {"AtomDataInd", atomContents},

@@ -26,7 +26,7 @@ struct Getter {
     uint16_t answerField;
 };
 
-const std::unordered_map<std::string_view, Getter> kGetters{
+const auto& kGetters = *new const std::unordered_map<std::string_view, Getter>{
     {"GetFeatureState", {"SetFeatureState", 257, 256}},
     {"GetModemIndicationPolicy", {"SetModemIndicationPolicy", 256, 256}},
     {"GetQosData", {"SetQosConfig", 257, 256}},
@@ -36,7 +36,7 @@ const std::unordered_map<std::string_view, Getter> kGetters{
 };
 
 /// The messages that do more than to store their fields or to read stored ones.
-const std::unordered_map<std::string_view, Handler> kHandlers{
+const auto& kHandlers = *new const std::unordered_map<std::string_view, Handler>{
     {"AtCommand", executeAtCommand},
     {"GetAllCellularCellInfo", getAllCells},
     {"GetAtomData", getAtomData},

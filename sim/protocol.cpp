@@ -143,7 +143,8 @@ bool isSigned(FieldKind kind)
 
 const Protocol& Protocol::instance()
 {
-    static const Protocol protocol{embedded::messages};
+    // Never destroyed: the process may end while the modem is in use.
+    static const Protocol& protocol = *new Protocol{embedded::messages};
     return protocol;
 }
 

@@ -17,7 +17,8 @@ constexpr uint32_t kMaxTime = 24 * 60 * 60 * 1000;
 
 const json& builtInJson()
 {
-    static const json parsed = json::parse(embedded::defaultScenario);
+    // Never destroyed: the process may end while the modem is in use.
+    static const json& parsed = *new json(json::parse(embedded::defaultScenario));
     return parsed;
 }
 

@@ -3,7 +3,9 @@
 #include <nlohmann/json.hpp>
 
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
+#include <regex>
 #include <set>
 #include <sstream>
 #include <sys/wait.h>
@@ -140,6 +142,24 @@ const Example kExamples[] = {
     {"read-nv 0x64 0", R"({"dataLen": 3, "data": "0102ab"})"},
 };
 
+/// The functions of the public headers that take a request callback, but for the registrations.
+std::set<std::string> publicRequests()
+{
+    std::set<std::string> names;
+    const std::regex declaration(R"(RADIO_API int (radio\w+)\([^;]*RadioRequestCallback)");
+    for (const auto& entry : std::filesystem::directory_iterator(DEVICE_ROOT "/../../include/radio_apis")) {
+        std::ifstream file(entry.path());
+        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        for (std::sregex_iterator at(text.begin(), text.end(), declaration); at != std::sregex_iterator();
+             ++at) {
+            names.insert((*at)[1]);
+        }
+    }
+    names.erase("radioRegisterVsEvent");
+    names.erase("radioRegisterRadioEvent");
+    return names;
+}
+
 std::string nameOf(const Example& example)
 {
     return example.line.substr(0, example.line.find(' '));
@@ -188,6 +208,61 @@ TEST(Radioctl, ShowsCells)
                 HasSubstr("neighbours (" + std::to_string(record.at("neighbours").size()) + ")"));
     EXPECT_EQ(json::parse(radioctl("get-serving-cellular-cell-info --json").output).at("record").at("pci"),
               record.at("pci"));
+}
+
+TEST(Radioctl, HasACommandForEveryPublicRequest)
+{
+    std::set<std::string> listed;
+    for (const json& request : json::parse(radioctl("list --json").output)) {
+        listed.insert(request.at("entryPoint"));
+    }
+    EXPECT_EQ(listed, publicRequests());
+}
+
+TEST(Radioctl, TakesAsManyElementsAsARecordHolds)
+{
+    const struct {
+        std::string request; // # stands for the list
+        std::string element;
+        size_t most;
+    } lists[] = {
+        {"set-atom-status 1 2 3 masks=#", R"({"id":1,"mask":2})", 40},
+        {"set-atom-status 1 2 3 parameters=#", R"({"id":1})", 4},
+        {"load-atom-application strings=#", "\"" + std::string(63, 's') + "\"", 16},
+        {"load-atom-application values=#", "1", 32},
+        {"set-site-cell-info 0 cells=#", R"({"arfcn":1})", 64},
+        {"send-score-info scores=#", R"({"values":[1,2,3,4,5,6]})", 16},
+        {"set-hyper-uplink-paras values=#", "-1", 16},
+        {"set-hyper-uplink-paras list2={\"values\":#}", "-1", 10},
+        {"set-modem-indication-policy policies=#", R"({"text1":"123456789","text2":"abc"})", 48},
+        {"set-indication-config 1 configs=#", R"({"indication":4294967295})", 64},
+        {"send-rf-icc-clat-kpi entries=#", R"({"level":255})", 23},
+        {"set-ims-audio-quality-threshold values=#", "1", 22},
+        {"set-adaptive-handover-threshold values=#", "1", 6},
+        {"send-network-action parameters=#", R"({"values":[1,2,3,4]})", 8},
+        {"send-network-action cellsPresent=1 second={\"present\":1,\"cells\":#}", R"({"h":[1,2,3]})", 64},
+        {"send-network-action cellsPresent=1 first={\"present\":1,\"cells\":[{\"c\":#}]}", "7", 16},
+        {"send-network-action cellsPresent=1 first={\"present\":1,\"cells\":[{\"iPresent\":1,\"j\":#}]}",
+         R"({"value3":9})", 16},
+    };
+    for (const auto& row : lists) {
+        const auto send = [&](size_t count) {
+            std::string list = "[" + row.element;
+            for (size_t i = 1; i < count; ++i) {
+                list += "," + row.element;
+            }
+            const size_t place = row.request.find('#');
+            const size_t word = row.request.rfind(' ', place) + 1;
+            std::string line = row.request;
+            line.replace(place, 1, list + "]").insert(word, "'");
+            return radioctl("batch -", line + "'\n");
+        };
+        const Ran full = send(row.most);
+        EXPECT_EQ(full.status, 0) << row.request << "\n" << full.output;
+        const Ran over = send(row.most + 1);
+        EXPECT_EQ(over.status, 2) << row.request;
+        EXPECT_THAT(over.output, HasSubstr("at most " + std::to_string(row.most) + " are allowed"));
+    }
 }
 
 TEST(Radioctl, SendsEveryRequest)

@@ -1,7 +1,5 @@
 #include "radioctl/arguments.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -59,11 +57,6 @@ std::vector<int> parseList(const std::string& name, std::string_view word, size_
 }
 
 } // namespace
-
-std::string rangeText(int64_t lowest, uint64_t highest)
-{
-    return fmt::format("{} to {}", lowest, highest);
-}
 
 void refuseNumber(std::string_view where, std::string_view word, const std::string& range)
 {

@@ -1,6 +1,8 @@
 /// The arguments of a request, from the command line's words.
 #pragma once
 
+#include <fmt/format.h>
+
 #include <any>
 #include <charconv>
 #include <cstdint>
@@ -34,7 +36,11 @@ struct Argument {
     std::string details;    ///< further lines of help
 };
 
-std::string rangeText(int64_t lowest, uint64_t highest);
+template <typename T>
+std::string rangeText(T lowest, T highest)
+{
+    return fmt::format("{} to {}", lowest, highest);
+}
 
 [[noreturn]] void refuseNumber(std::string_view where, std::string_view word, const std::string& range);
 

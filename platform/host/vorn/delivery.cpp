@@ -73,6 +73,7 @@ void Transport::deliverBatch()
 
 void Transport::handle(Outgoing& request)
 {
+    const std::lock_guard use(mLinkUse);
     mLink->send(*request.message);
 }
 
@@ -88,7 +89,10 @@ void Transport::handle(Incoming& message)
 void Transport::handle(Loss& loss)
 {
     zorLogW(kTag, "the link to the modem is lost");
-    mLink->close();
+    {
+        const std::lock_guard use(mLinkUse);
+        mLink->close();
+    }
     mBackOff = kFirstBackOff;
     mReopenAt = Clock::now() + loss.retryAfter;
     publishLinkState(LinkState::Lost);
@@ -97,6 +101,7 @@ void Transport::handle(Loss& loss)
 
 void Transport::handle(CommandPtr& command)
 {
+    const std::lock_guard use(mLinkUse);
     command->answer.set_value(mLink->control(command->text));
 }
 
@@ -139,8 +144,11 @@ void Transport::serveLink()
         return;
     }
     const Clock::TimePoint now = Clock::now();
-    if (mLink->nextDeadline() <= now) {
-        mLink->advance(now);
+    {
+        const std::lock_guard use(mLinkUse);
+        if (mLink->nextDeadline() <= now) {
+            mLink->advance(now);
+        }
     }
     if (mReopenAt <= now) {
         reopenLink(now);
@@ -157,6 +165,7 @@ void Transport::reopenLink(Clock::TimePoint now)
     };
     enter(LinkPhase::Down, LinkPhase::Opening);
     try {
+        const std::lock_guard use(mLinkUse);
         mLink->open();
     } catch (const LinkError& error) {
         zorLogD(kTag, "the link is still lost: %s", error.what());
@@ -195,8 +204,11 @@ void Transport::answerAll(uint32_t result)
 
 void Transport::tearDown()
 {
-    mLink->close();
-    mLink.reset();
+    {
+        const std::lock_guard use(mLinkUse);
+        mLink->close();
+        mLink.reset();
+    }
     std::vector<Item> dropped = std::move(mBatch);
     mBatch.clear();
     {
