@@ -130,15 +130,18 @@ AtReply getImsi(const AtCall& call)
                                   : AtReply{AtResult::NoSimCard};
 }
 
-/// +EGMC=1,"NAME",VALUE...: sets an item of the modem's configuration; +EGMC=0,"NAME" reads one that was set.
-AtReply configureItem(const AtCall& call)
+/// An item of the modem's configuration, NAME=OPERATION,"ITEM"[,VALUE...]: set with one of `setters`, read
+/// with `getter` once it was set.
+AtReply configureItem(const AtCall& call, std::string_view setters, std::string_view getter)
 {
     const auto& parameters = call.parameters;
     if (parameters.size() < 2 || !parameters[1].quoted) {
         return {AtResult::BadParameters};
     }
-    const std::string key = "+EGMC " + parameters[1].text;
-    if (parameters[0].text == "1" && parameters.size() > 2) {
+    const std::string& operation = parameters[0].text;
+    const std::string name(call.command.name);
+    const std::string key = name + " " + parameters[1].text;
+    if (operation.size() == 1 && setters.find(operation) != std::string_view::npos && parameters.size() > 2) {
         auto& values = call.slot.at[key];
         values.clear();
         for (size_t i = 2; i < parameters.size(); ++i) {
@@ -147,14 +150,24 @@ AtReply configureItem(const AtCall& call)
         return {};
     }
     const auto item = call.slot.at.find(key);
-    if (parameters[0].text != "0" || parameters.size() != 2 || item == call.slot.at.end()) {
+    if (operation != getter || parameters.size() != 2 || item == call.slot.at.end()) {
         return {AtResult::BadParameters};
     }
-    std::string line = "+EGMC: \"" + parameters[1].text + '"';
+    std::string line = name + ": \"" + parameters[1].text + '"';
     for (const std::string& value : item->second) {
         line += "," + value;
     }
     return {AtResult::Ok, {line}};
+}
+
+AtReply configureModem(const AtCall& call)
+{
+    return configureItem(call, "1", "0");
+}
+
+AtReply configureSwitch(const AtCall& call)
+{
+    return configureItem(call, "56", "7");
 }
 
 constexpr AtRule kEcho[] = {{Type::Number, 0, 1, true}};
@@ -184,7 +197,8 @@ constexpr AtCommand kCommands[] = {
      .rules = kOperationMode,
      .initial = "2"},
     {.name = "+CIMI", .execute = getImsi, .test = ok},
-    {.name = "+EGMC", .set = configureItem},
+    {.name = "+EGMC", .set = configureModem},
+    {.name = "+ESBP", .set = configureSwitch},
 };
 
 } // namespace

@@ -16,7 +16,7 @@ constexpr size_t kAllCellSize = 4280;
 
 const Cell& campedOrNone(const Slot& slot)
 {
-    static const Cell none;
+    static const auto& none = *new Cell; // outlives the delivery thread at exit
     const Cell* cell = slot.camped();
     return cell != nullptr ? *cell : none;
 }
@@ -30,7 +30,8 @@ std::vector<const Slot*> slotsWithService(const Subject& subject)
             slots.push_back(&slot);
         }
     }
-    std::ranges::stable_partition(slots, [&](const Slot* slot) { return slot == &subject.slot; });
+    std::stable_partition(slots.begin(), slots.end(),
+                          [&](const Slot* slot) { return slot == &subject.slot; });
     return slots;
 }
 

@@ -41,7 +41,7 @@ bool StoredSettings::erase(std::string_view setter, const Bytes& key)
 
 const StoredSettings::ByKey& StoredSettings::all(std::string_view setter) const
 {
-    static const ByKey nothing;
+    static const auto& nothing = *new ByKey; // outlives the delivery thread at exit
     const auto found = mStored.find(setter);
     return found == mStored.end() ? nothing : found->second;
 }

@@ -106,7 +106,7 @@ const Value* Fields::find(uint16_t tag) const
 
 const Bytes& Fields::bytes(uint16_t tag) const
 {
-    static const Bytes nothing;
+    static const auto& nothing = *new Bytes; // outlives the delivery thread at exit
     const Value* value = find(tag);
     const Bytes* bytes = value != nullptr ? std::get_if<Bytes>(value) : nullptr;
     return bytes != nullptr ? *bytes : nothing;
@@ -114,7 +114,7 @@ const Bytes& Fields::bytes(uint16_t tag) const
 
 const std::vector<Bytes>& Fields::elements(uint16_t tag) const
 {
-    static const std::vector<Bytes> nothing;
+    static const auto& nothing = *new std::vector<Bytes>; // outlives the delivery thread at exit
     const Value* value = find(tag);
     const auto* elements = value != nullptr ? std::get_if<std::vector<Bytes>>(value) : nullptr;
     return elements != nullptr ? *elements : nothing;

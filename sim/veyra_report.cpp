@@ -49,9 +49,9 @@ void appendCell(Bytes& block, const Cell& cell)
 Bytes takeFrequency(Cells& cells)
 {
     const Cell& first = *cells.front();
-    const auto others =
-        std::ranges::stable_partition(cells, [&](const Cell* cell) { return cell->arfcn == first.arfcn; });
-    const auto onFrequency = static_cast<size_t>(others.begin() - cells.begin());
+    const auto others = std::stable_partition(cells.begin(), cells.end(),
+                                              [&](const Cell* cell) { return cell->arfcn == first.arfcn; });
+    const auto onFrequency = static_cast<size_t>(others - cells.begin());
     const size_t count = std::min(onFrequency, kMaxCells);
 
     Bytes block;
@@ -63,7 +63,7 @@ Bytes takeFrequency(Cells& cells)
         appendCell(block, *cells[i]);
     }
     block.resize(kFrequencySize);
-    cells.erase(cells.begin(), others.begin());
+    cells.erase(cells.begin(), others);
     return block;
 }
 

@@ -54,11 +54,13 @@ struct RadioModemHeapList {
 
 extern "C" {
 
-/// Sets power saving switches.
+/// Sets power saving switches. With type 600 they are AT commands: group 3 sets `op` for the receive level
+/// adjustment of NR, 4 for the search without a SIM, 5 for the low power control; other groups are not
+/// supported yet.
 ///
 /// @param info      the switches
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param callback  called once with the modem's verdict; on success with an empty record
+/// @return 0 when handed to the modem, 1 when refused, which with type 600 every group but 3 to 5 is
 RADIO_API int radioSetPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback callback);
 
 /// Sets when the modem may rest.

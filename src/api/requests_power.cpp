@@ -3,6 +3,10 @@
 
 int radioSetPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback callback)
 {
+    constexpr int kAtCommands = 600;
+    if (info.type == kAtCommands) {
+        return forward(__func__, &VornAtClient::setPowerSavingState, info, userData, callback);
+    }
     return forward(__func__, &VornVsClient::setPowerSavingState, info, userData, callback);
 }
 

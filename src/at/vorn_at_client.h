@@ -4,6 +4,7 @@
 #include "at/at_callbacks.h"
 #include "channel/vorn_client.h"
 #include "mindroid/handler.h"
+#include "radio_apis/power.h"
 
 /// One per instance, held by strong pointers: a command on its way keeps its client.
 class VornAtClient : public VornClient, public mindroid::Handler {
@@ -36,6 +37,10 @@ public:
                                                         RadioApisResultType* record);
 
     int getServiceMode(void* userData, RadioRequestCallback cb);
+
+    /// The switches of groups 3 to 5, one command each. Other groups are refused with 1 and a line in the
+    /// log.
+    int setPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback cb);
 
     /// For NR only: other radio access technologies have a vendor message. `rat` is not sent.
     int setAntForceStateByRat(int rat, int state, void* userData, RadioRequestCallback cb);

@@ -150,6 +150,32 @@ TEST_F(AtTransport, LogsEachWay)
     EXPECT_THROW(modem.answer(answer("OK")), std::bad_function_call);
 }
 
+TEST_F(AtTransport, SendsCommandsWithoutData)
+{
+    const auto power = [this](int group) {
+        return client->setPowerSavingState({.cgType = group, .type = 600, .op = -2}, &caller,
+                                           Caller::onResult);
+    };
+    const std::pair<std::function<int()>, const char*> cases[] = {
+        {[&] { return client->setAntForceStateByRat(4, 1, &caller, Caller::onResult); },
+         "AT+EGMC = 1,\"NrTas_onoff\",1"},
+        {[&] { return power(3); }, "AT+ESBP=5,\"SBP_CUSTOM_QRXLEVMIN_ADJ_NR\",-2"},
+        {[&] { return power(4); }, "AT+ESBP=5,\"SBP_GMSS_NO_SIM_SKIP_LTE_NR_SEARCH\",-2"},
+        {[&] { return power(5); }, "AT+ESBP=6,\"SBP_SAF_ASSISTANT_LOW_POWER_CONTROL\",-2"},
+    };
+    for (const auto& [call, command] : cases) {
+        ASSERT_EQ(call(), 0);
+        EXPECT_EQ(frame(*modem.sent.at(0).message), frame(*message(3, 2, 0, {text(0x8100, command)})));
+        modem.answer(answer("OK"));
+        EXPECT_EQ(caller.result, RADIO_APIS_SUCCESS);
+    }
+    for (const int group : {0, 1, 2, 6}) {
+        EXPECT_EQ(power(group), 1);
+        EXPECT_TRUE(log.has("E VornAtClient: setPowerSavingState: invalid cgType: " + std::to_string(group)));
+    }
+    EXPECT_TRUE(modem.sent.empty());
+}
+
 TEST_F(AtTransport, ReadsTheServiceMode)
 {
     const struct {

@@ -75,17 +75,6 @@ TEST_F(Listeners, AreCalledInOrderOnceEach)
     EXPECT_THAT(calls, ElementsAre());
 }
 
-TEST_F(Listeners, HaveBounds)
-{
-    for (const int event : {400, 501, 0, -1, 10001}) {
-        EXPECT_EQ(client.registerRadioEvent(static_cast<RADIO_EVENT_TYPE>(event), &a, first), 1);
-        EXPECT_TRUE(log.has("E RpcClient: registerEvent error, invalid eventId " + std::to_string(event)));
-    }
-    for (const int event : {401, 500}) {
-        EXPECT_EQ(client.registerRadioEvent(static_cast<RADIO_EVENT_TYPE>(event), &a, first), 0);
-    }
-}
-
 TEST_F(Listeners, HearOnlyMappedIndications)
 {
     client.registerRadioEvent(RADIO_EVENT_TEST_IND, &a, first);
@@ -127,24 +116,4 @@ TEST_F(Listeners, MayChangeWhileEventsFlow)
     done = true;
     churn.join();
     EXPECT_EQ(kept, kEvents);
-}
-
-TEST_F(Listeners, OfServicesHearTwoStatesOnly)
-{
-    static std::vector<int> states;
-    states.clear();
-    const auto listener = [](RADIO_APIS_SERVICE_TYPE service, RAPIS_CONNECT_STATE state, void* user) {
-        EXPECT_EQ(service, RADIO_APIS_SERVICE_MODEM);
-        states.push_back(state * 10 + *static_cast<int*>(user));
-    };
-    a = 1;
-    b = 2;
-    EXPECT_EQ(client.registerRadioApisEvent(&a, listener), 0);
-    EXPECT_EQ(client.registerRadioApisEvent(&b, listener), 0);
-    EXPECT_EQ(client.registerRadioApisEvent(&a, listener), 0);
-    EXPECT_TRUE(log.has("D RpcClient: registerRadioApisEvent already in list"));
-    for (const int state : {0, 2, 1, -1}) {
-        client.radioApiEventCall(RADIO_APIS_SERVICE_MODEM, static_cast<RAPIS_CONNECT_STATE>(state));
-    }
-    EXPECT_THAT(states, ElementsAre(1, 2, 11, 12));
 }

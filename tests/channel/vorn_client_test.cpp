@@ -92,30 +92,6 @@ TEST(VornClient, GuardsItsHandlersNotItsCallers)
     EXPECT_THROW(FakeModem::instance().answer({result(21)}), std::bad_function_call);
 }
 
-TEST(VornClient, FreesAContextInOrder)
-{
-    static std::string freed;
-    struct Mark {
-        explicit Mark(char letter) : name(letter) {}
-        Mark(const Mark& other) : name(std::exchange(const_cast<Mark&>(other).name, '\0')) {}
-        ~Mark()
-        {
-            if (name != '\0') {
-                freed += name;
-            }
-        }
-        char name;
-    };
-    auto context = std::make_unique<RadioApisAsyncData>(
-        nullptr, nullptr, [m = Mark('r')](void*, RADIO_APIS_RESULT, RadioApisResultType*) {},
-        [m = Mark('e')](void*, RADIO_APIS_RESULT, void*, int) {},
-        [m = Mark('h')](void*, unsigned int, RadioApisAsyncData*) {});
-    freed.clear();
-    const auto response = message(7, 1, 0, {result(0)});
-    vornResponseCallback(response.get(), context.release());
-    EXPECT_EQ(freed, "her");
-}
-
 TEST(VornClient, LogsAndDropsIndicationsNobodyMapped)
 {
     TestClient client(1);

@@ -84,53 +84,6 @@ TEST_F(Indications, NamesAndValuesMayBeShort)
                                    testing::Pair(258, i32(0))));
 }
 
-TEST_F(Indications, CellReports)
-{
-    const Bytes answer = std::get<Bytes>(ask(0x381F)[256]);
-    const Bytes serving = block("ServingCellInfoInd");
-    EXPECT_TRUE(std::equal(answer.begin(), answer.end(), serving.begin()));
-
-    const Bytes all = block("AllCellInfoInd", 1);
-    EXPECT_EQ(toNumber<uint32_t>(all), 2U);
-    EXPECT_EQ(toNumber<uint32_t>(all, 8 + 4), 4U) << "its own subscription first";
-    EXPECT_EQ(toNumber<uint32_t>(all, 8 + 84), 4U) << "neighbours";
-    EXPECT_EQ(toNumber<uint32_t>(all, 8 + 88 + 8), 45U) << "its first neighbour";
-    EXPECT_EQ(toNumber<uint32_t>(all, 2144 + 4), 5U);
-    EXPECT_EQ(toNumber<uint32_t>(all, 2144 + 28), 0x2345C401U) << "no reserved word before the identity";
-}
-
-struct ContentsRow {
-    std::string name;
-    uint16_t field;
-    Bytes begin; ///< what the field begins with
-};
-
-TEST_F(Indications, TellOfTheirSlot)
-{
-    start(R"({"slots": [{"serving": {"rsrp": -116}}]})");
-    ask(0x3811, {{256, std::vector<Bytes>{toBytes(7), toBytes(-8)}}});
-    ask(0x3861, {{256, i32(400)}});
-    ask(0x3867, {{256, wordBlock({1, 5})}});
-    ask(0x384F, {{257, Bytes{4, 2}}});
-    ask(0x387D, {{256, u8(3)}, {257, u8(0)}, {258, u8(0)}, {259, u8(0)}});
-    const std::vector<ContentsRow> rows{
-        {"sido-issue", 256, wordBlock({2, 7, -8, 0})},
-        {"qos-period-report", 256, wordBlock({400, 1, 5, -116, -10, 18})},
-        {"qos-period-report", 256, wordBlock({400, 2})},
-        {"ims-rtp-control", 256, {5, 0}},
-        {"sml-status", 257, {4, 2}},
-        {"alert", 257, wordBlock({2})},
-        {"smart-network-select", 256, wordBlock({4, 6300, 391})},
-        {"rf-icc-clat", 256, {78, 0, 100, 0, 3, 0}},
-        {"single-sim-change", 256, {0}},
-    };
-    for (const auto& row : rows) {
-        Bytes contents = block(row.name, 0, row.field);
-        contents.resize(std::min(contents.size(), row.begin.size()));
-        EXPECT_EQ(contents, row.begin) << row.name;
-    }
-}
-
 TEST_F(Indications, MeasurementReport)
 {
     start(R"({"slots": [{"operator": {"mcc": 460, "mnc": 123, "mncDigits": 3}}, {"serving": null}]})");
@@ -148,27 +101,6 @@ TEST_F(Indications, MeasurementReport)
     EXPECT_EQ(toNumber<int16_t>(report, 42 + 12 + 4), -92);
     EXPECT_EQ(toNumber<uint32_t>(report, 32 + 106), 428000U);
     EXPECT_EQ(report[1092 + 3], 3) << "LTE frequencies";
-}
-
-TEST_F(Indications, MeasurementReportHoldsWhatItHasRoomFor)
-{
-    nlohmann::json neighbours;
-    for (int i = 0; i < 24; ++i) {
-        neighbours.push_back({{"rat", "NR"},
-                              {"band", 78},
-                              {"arfcn", i < 12 ? 1 : i},
-                              {"pci", i},
-                              {"cellIdentity", 0},
-                              {"rsrp", -90},
-                              {"rsrq", -9},
-                              {"sinr", 3}});
-    }
-    start(nlohmann::json{{"slots", {{{"neighbours", neighbours}, {"lteAnchor", nullptr}}}}}.dump());
-    const Bytes report = block("VeyraCellInfoInd", 0, 258);
-    EXPECT_EQ(report[8], 1) << "groups";
-    EXPECT_EQ(report[12 + 3], 10) << "frequencies";
-    EXPECT_EQ(report[32 + 106 + 5], 8) << "cells";
-    EXPECT_EQ(report[32 + 106 + 10 + 3], 0) << "the network of a cell without identity is not known";
 }
 
 FieldList numbers(std::initializer_list<int32_t> values)

@@ -10,16 +10,6 @@ using testing::StartsWith;
 
 class Requests : public ModemTest {};
 
-/// The little-endian bytes of a row of words.
-Bytes words(const std::vector<uint32_t>& list)
-{
-    Bytes bytes;
-    for (const uint32_t word : list) {
-        append(bytes, word);
-    }
-    return bytes;
-}
-
 TEST_F(Requests, AreAnsweredUnderTheirHeaderToTheirClient)
 {
     send(0x3895, {{256, i32(1)}, {257, i32(2)}}, 4, 0xFFFE);
@@ -91,45 +81,6 @@ TEST(Catalogue, FaultyRowsAreNamed)
         EXPECT_THAT([text = json] { Protocol{text}; },
                     testing::ThrowsMessage<std::runtime_error>(StartsWith(reason)));
     }
-}
-
-TEST_F(Requests, CellInformation)
-{
-    // NR with an LTE anchor; LTE alone; no service.
-    EXPECT_THAT(ask(0x3813),
-                ElementsAre(Pair(0, i32(0)), Pair(256, i32(1300)), Pair(257, i32(44)), Pair(258, i32(1))));
-    EXPECT_THAT(ask(0x3813, {}, 2),
-                ElementsAre(Pair(0, i32(0)), Pair(256, i32(1300)), Pair(257, i32(44)), Pair(258, i32(0))));
-    EXPECT_THAT(ask(0x3813, {}, 4),
-                ElementsAre(Pair(0, i32(0)), Pair(256, i32(0)), Pair(257, i32(0)), Pair(258, i32(0))));
-
-    EXPECT_THAT(ask(0x3825), ElementsAre(Pair(0, i32(0)), Pair(256, i32(2))));
-    EXPECT_THAT(ask(0x3825, {}, 4), ElementsAre(Pair(0, i32(0)), Pair(256, i32(1))));
-
-    constexpr auto minus = [](uint32_t value) { return 0U - value; };
-    Bytes serving =
-        words({5,         1,         1,  1001,      101,    627264, 0xFFFFFFFF, 0x2345C401, 1,  78,
-               minus(85), minus(10), 18, minus(56), 100000, 627264, 100000,     6,          13, 2});
-    serving.insert(serving.end(), {2, 4, 2});
-    EXPECT_THAT(ask(0x381F), ElementsAre(Pair(0, i32(0)), Pair(256, Value(serving))));
-
-    auto all = ask(0x3821);
-    EXPECT_EQ(all[256], Value(serving));
-    const auto neighbours = std::get<std::vector<Bytes>>(all[257]);
-    ASSERT_THAT(neighbours, SizeIs(6));
-    EXPECT_EQ(neighbours[3], words({4, 1300, 45, 3, minus(94), minus(12), 8, 19088642}));
-}
-
-TEST_F(Requests, NvItems)
-{
-    const FieldList key{{256, i32(7)}, {257, i32(-1)}};
-    EXPECT_THAT(ask(53, key), ElementsAre(Pair(0, i32(1)))) << "unknown item";
-    EXPECT_THAT(ask(51, {{256, i32(7)}, {257, i32(-1)}, {0x8102, Bytes(20480, 9)}}),
-                ElementsAre(Pair(0, i32(0))));
-    EXPECT_THAT(ask(53, key), ElementsAre(Pair(0, i32(0)), Pair(0x8100, Value(Bytes(20480, 9)))));
-    EXPECT_THAT(ask(53, key, 2), ElementsAre(Pair(0, i32(1)))) << "items belong to a slot";
-    EXPECT_THAT(ask(53, {{256, i32(1)}, {257, i32(0)}}, 2),
-                ElementsAre(Pair(0, i32(0)), Pair(0x8100, Value(Bytes{5, 6, 7, 8}))));
 }
 
 TEST_F(Requests, RadioOffMeansNoService)

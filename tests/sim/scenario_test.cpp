@@ -60,24 +60,6 @@ TEST_F(Scenarios, ErrorsTellPlaceAndReason)
     }
 }
 
-TEST_F(Scenarios, ErrorsInFilesNameTheFile)
-{
-    const auto file = std::filesystem::path(testing::TempDir()) / "scenario_test.json";
-    const auto errorIs = [](const std::string& error) {
-        return ThrowsMessage<ScenarioError>(HasSubstr(error));
-    };
-    const auto read = [&] { Scenario::fromFile(file); };
-    std::filesystem::remove(file);
-    EXPECT_THAT(read, errorIs(file.string() + ": can't be read"));
-    std::ofstream(file) << "{\"seed\": ";
-    EXPECT_THAT(read, errorIs(file.string() + ": "));
-    std::ofstream(file) << "{\"seed\": true}";
-    EXPECT_THAT(read, errorIs(file.string() + ": /seed: must be a whole number"));
-    std::ofstream(file) << "{\"seed\": 3}";
-    EXPECT_EQ(Scenario::fromFile(file).json()["seed"], 3);
-    std::filesystem::remove(file);
-}
-
 TEST_F(Scenarios, OfTheExamplesAreInOrder)
 {
     for (const auto& file : std::filesystem::directory_iterator(EXAMPLES)) {

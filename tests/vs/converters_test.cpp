@@ -35,7 +35,6 @@ struct Row {
     std::string log;
 };
 
-
 /// A record of the modem's that is copied as it is.
 Row copied(const char* name, Converter converter, uint16_t indication, int event, size_t size,
            std::string log)

@@ -76,7 +76,7 @@ std::vector<uint8_t> parseBytes(std::string_view where, const std::string& word,
     return *bytes;
 }
 
-Argument bytes(std::string name, std::string help, size_t least, size_t most)
+Argument bytes(const std::string& name, std::string help, size_t least, size_t most)
 {
     const auto parse = [=](std::span<const std::string> words) -> std::any {
         return parseBytes(name, words.front(), least, most);
@@ -85,7 +85,7 @@ Argument bytes(std::string name, std::string help, size_t least, size_t most)
             fmt::format("hexadecimal digits or @FILE, {} bytes", countText(least, most)), parse};
 }
 
-Argument list(std::string name, std::string help, size_t most)
+Argument list(const std::string& name, std::string help, size_t most)
 {
     const auto parse = [=](std::span<const std::string> words) -> std::any {
         return parseList(name, words.front(), most);

@@ -76,7 +76,7 @@ std::vector<uint8_t> parseBytes(std::string_view where, const std::string& word,
 
 /// A number of type T, or in a range of its own.
 template <typename T>
-Argument number(std::string name, std::string help, T lowest = std::numeric_limits<T>::lowest(),
+Argument number(const std::string& name, std::string help, T lowest = std::numeric_limits<T>::lowest(),
                 T highest = std::numeric_limits<T>::max())
 {
     const auto parse = [=](std::span<const std::string> words) -> std::any {
@@ -86,10 +86,10 @@ Argument number(std::string name, std::string help, T lowest = std::numeric_limi
 }
 
 /// A std::vector<uint8_t>: hexadecimal digits, or @FILE.
-Argument bytes(std::string name, std::string help, size_t least, size_t most);
+Argument bytes(const std::string& name, std::string help, size_t least, size_t most);
 
 /// A std::vector<int>: numbers with commas between them, or - for none.
-Argument list(std::string name, std::string help, size_t most);
+Argument list(const std::string& name, std::string help, size_t most);
 
 /// The checked values of one call.
 class Arguments {

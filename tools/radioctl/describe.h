@@ -259,7 +259,7 @@ std::string membersText(size_t indent)
 
 /// A record of the library as an argument: what isn't given is zero.
 template <typename T>
-Argument record(std::string name, std::string help)
+Argument record(const std::string& name, std::string help)
 {
     const auto parse = [=](std::span<const std::string> words) -> std::any {
         T value{};

@@ -73,7 +73,6 @@ void Transport::deliverBatch()
 
 void Transport::handle(Outgoing& request)
 {
-    const std::lock_guard use(mLinkUse);
     mLink->send(*request.message);
 }
 
@@ -89,10 +88,7 @@ void Transport::handle(Incoming& message)
 void Transport::handle(Loss& loss)
 {
     zorLogW(kTag, "the link to the modem is lost");
-    {
-        const std::lock_guard use(mLinkUse);
-        mLink->close();
-    }
+    mLink->close();
     mBackOff = kFirstBackOff;
     mReopenAt = Clock::now() + loss.retryAfter;
     publishLinkState(LinkState::Lost);
@@ -101,7 +97,6 @@ void Transport::handle(Loss& loss)
 
 void Transport::handle(CommandPtr& command)
 {
-    const std::lock_guard use(mLinkUse);
     command->answer.set_value(mLink->control(command->text));
 }
 
@@ -144,11 +139,8 @@ void Transport::serveLink()
         return;
     }
     const Clock::TimePoint now = Clock::now();
-    {
-        const std::lock_guard use(mLinkUse);
-        if (mLink->nextDeadline() <= now) {
-            mLink->advance(now);
-        }
+    if (mLink->nextDeadline() <= now) {
+        mLink->advance(now);
     }
     if (mReopenAt <= now) {
         reopenLink(now);
@@ -165,7 +157,6 @@ void Transport::reopenLink(Clock::TimePoint now)
     };
     enter(LinkPhase::Down, LinkPhase::Opening);
     try {
-        const std::lock_guard use(mLinkUse);
         mLink->open();
     } catch (const LinkError& error) {
         zorLogD(kTag, "the link is still lost: %s", error.what());
@@ -204,11 +195,8 @@ void Transport::answerAll(uint32_t result)
 
 void Transport::tearDown()
 {
-    {
-        const std::lock_guard use(mLinkUse);
-        mLink->close();
-        mLink.reset();
-    }
+    mLink->close();
+    mLink.reset();
     std::vector<Item> dropped = std::move(mBatch);
     mBatch.clear();
     {

@@ -37,10 +37,6 @@ public:
     /// it too: then the thread ends when that returns, or lives on for the link that the callback opens next.
     void close();
 
-    /// Keeps the delivery thread away from the link for good: the process ends, and with it what the link
-    /// uses. Does not wait for a callback that runs.
-    void halt() { mLinkUse.lock(); }
-
     /// False when refused: not open, the link is lost, no free transaction, or no memory. Else `callback` is
     /// called exactly once. Notes the transaction in `request`.
     bool send(vorn_msg_t& request, vorn_msg_cb callback, void* user);
@@ -130,8 +126,6 @@ private:
     std::optional<IndicationKey> mRunning; ///< the indication whose callback runs now
     uint64_t mRunNumber = 0;               ///< tells one run from the next
     std::condition_variable mRunEnded;
-
-    std::mutex mLinkUse; ///< held by the delivery thread while it is inside the link
 
     // The delivery thread's own, or the opener's before there is that thread.
     std::unique_ptr<Link> mLink;

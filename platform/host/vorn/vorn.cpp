@@ -80,13 +80,7 @@ int vorn_init_debug(const char* name)
         const std::string device = deviceName();
         zorLogD(kTag, "%s opens %s", name != nullptr ? name : "a program without a name", device.c_str());
         const auto makeLink = [&](host::LinkEvents& events) { return host::makeLink(device, events); };
-        if (!library().transport.open(makeLink)) {
-            return kRefused;
-        }
-        // After the first opening, which makes what the link shares with the process: that is destroyed
-        // later, then.
-        [[maybe_unused]] static const int registered = std::atexit([] { library().transport.halt(); });
-        return 0;
+        return library().transport.open(makeLink) ? 0 : kRefused;
     });
 }
 

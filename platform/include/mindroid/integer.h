@@ -9,8 +9,8 @@ namespace mindroid {
 
 class Integer {
 public:
-    /// The whole text as a signed decimal number: an optional sign, then digits, nothing else, within 32 bits.
-    /// Throws NumberFormatException for everything else.
+    /// The whole text as a signed decimal number: an optional sign, then digits, nothing else, within 32
+    /// bits. Throws NumberFormatException for everything else.
     static int32_t parseInt(std::string_view text);
 
     /// The same for callers to whom "not a number" is an ordinary outcome.
