@@ -65,14 +65,14 @@ int32_t byteArrayToInt(const uint8_t* bytes)
 void byteArrayToIntArray(const uint8_t* bytes, int length, int32_t* out, int* count)
 {
     *count = length < 0 ? 0 : length / 4;
-    for (int i = 0; i < *count; ++i) {
-        out[i] = byteArrayToInt(bytes + 4 * i);
+    for (int i = 0; i < *count; ++i, bytes += 4) {
+        out[i] = byteArrayToInt(bytes);
     }
 }
 
 void intArrayToByteArray(const int32_t* values, int count, uint8_t* out)
 {
-    for (int i = 0; i < count; ++i) {
-        intToByteArray(values[i], out + 4 * i);
+    for (int i = 0; i < count; ++i, out += 4) {
+        intToByteArray(values[i], out);
     }
 }
