@@ -1,28 +1,12 @@
 #include "radio/vorn_radio_client.h"
 #include "radio_apis/converters.h"
+#include "support/event.h"
 #include "support/fake_modem.h"
 #include "support/log_capture.h"
 
 #include <gmock/gmock.h>
 
 using namespace test;
-
-namespace {
-
-struct Event {
-    int event = 0;
-    Bytes record;
-    int calls = 0;
-
-    static void onEvent(RADIO_EVENT_TYPE event, void* user, void* data, int length)
-    {
-        auto& self = *static_cast<Event*>(user);
-        const auto* bytes = static_cast<const uint8_t*>(data);
-        self = {event, Bytes(bytes, bytes + length), self.calls + 1};
-    }
-};
-
-} // namespace
 
 TEST(RadioIndications, BecomeEvents)
 {

@@ -1,4 +1,5 @@
 #include "radio_apis/converters.h"
+#include "support/event.h"
 #include "support/fake_modem.h"
 #include "support/log_capture.h"
 #include "vs/vorn_vs_client.h"
@@ -8,19 +9,6 @@
 using namespace test;
 
 namespace {
-
-struct Event {
-    int event = 0;
-    Bytes record;
-    int calls = 0;
-
-    static void onEvent(RADIO_EVENT_TYPE event, void* user, void* data, int length)
-    {
-        auto& self = *static_cast<Event*>(user);
-        const auto* bytes = static_cast<const uint8_t*>(data);
-        self = {event, Bytes(bytes, bytes + length), self.calls + 1};
-    }
-};
 
 using Converter = void (*)(void*, int, void*, RadioEventCallback);
 
