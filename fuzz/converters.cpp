@@ -25,7 +25,7 @@ void addField(vorn_msg_t* message, Input& input)
     const uint8_t kind = take(input, 1)[0];
     const auto tag = static_cast<uint16_t>(256 + (kind & 3));
     const Input length = take(input, 2);
-    const Input value = take(input, length.size() == 2 ? length[0] | length[1] << 8 : 0);
+    const Input value = take(input, length.size() == 2 ? size_t{length[0]} + (size_t{length[1]} << 8) : 0);
     // The message library refuses null values; an empty field needs a place to point to.
     const uint8_t nothing = 0;
     const uint8_t* bytes = value.empty() ? &nothing : value.data();

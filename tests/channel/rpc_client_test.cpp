@@ -3,9 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <atomic>
-#include <thread>
-
 using namespace test;
 using testing::ElementsAre;
 
@@ -89,31 +86,4 @@ TEST_F(Listeners, HearOnlyMappedIndications)
     EXPECT_THAT(calls, ElementsAre());
     EXPECT_EQ(client.rpcEventMap(1), RADIO_EVENT_TEST_IND); // the first of two rows
     EXPECT_EQ(client.rpcEventMap(99), RADIO_EVENT_NONE);
-}
-
-TEST_F(Listeners, MayChangeWhileEventsFlow)
-{
-    static std::atomic<int> kept;
-    kept = 0;
-    const auto staying = [](RADIO_EVENT_TYPE, void* user, void*, int) {
-        ++kept;
-        static_cast<RpcClient*>(user)->registerRadioEvent(RADIO_EVENT_NEC_IND, user, first);
-        static_cast<RpcClient*>(user)->deregisterRadioEvent(RADIO_EVENT_NEC_IND, first);
-    };
-    client.registerRadioEvent(RADIO_EVENT_TEST_IND, &client, staying);
-    std::atomic<bool> done = false;
-    std::thread churn([&] {
-        const auto passing = [](RADIO_EVENT_TYPE, void*, void*, int) {};
-        while (!done) {
-            client.registerRadioEvent(RADIO_EVENT_TEST_IND, &a, passing);
-            client.deregisterRadioEvent(RADIO_EVENT_TEST_IND, passing);
-        }
-    });
-    constexpr int kEvents = 100000;
-    for (int i = 0; i < kEvents; ++i) {
-        client.notifyEventForAllClient(1, nullptr, 0);
-    }
-    done = true;
-    churn.join();
-    EXPECT_EQ(kept, kEvents);
 }

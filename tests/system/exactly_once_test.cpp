@@ -1,9 +1,10 @@
-/// The shared library over the real message library and the simulated modem: every accepted request is
-/// answered once, whatever the modem and the link do.
+/// The library over the real message library and the simulated modem: every accepted request is answered
+/// once, and every event told once, whatever the modem, the link and other threads do.
 #include "host/clock.h"
 #include "host/device.h"
 #include "host/vorn_control.h"
 #include "radio_apis/radio_apis.h"
+#include "vs/vorn_vs_client.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -199,4 +200,51 @@ TEST_F(ExactlyOnce, FromManyThreadsOnThreeInstances)
     }
     answers.expectOnceEach(kThreads * kPerThread);
     EXPECT_EQ(answers.failures(), 0u);
+}
+
+TEST_F(ExactlyOnce, EventsWhileListenersComeAndGo)
+{
+    constexpr auto kEvent = RADIO_EVENT_TEST_IND;
+    constexpr int kEvents = 100'000;
+    constexpr int kAtOnce = 10'000;
+    VornVsClient client(false, 1);
+    ASSERT_EQ(client.registerEvent({.test = {1, 1}}, nullptr, nullptr), 0);
+
+    static std::atomic<int> before;
+    static std::atomic<int> after;
+    before = after = 0;
+    constexpr RadioEventCallback passing = [](RADIO_EVENT_TYPE, void*, void*, int) {};
+    constexpr RadioEventCallback inCallback = [](RADIO_EVENT_TYPE, void*, void*, int) {};
+    client.registerRadioEvent(kEvent, &client, [](RADIO_EVENT_TYPE, void* user, void*, int) {
+        static_cast<VornVsClient*>(user)->registerRadioEvent(kEvent, user, inCallback);
+        static_cast<VornVsClient*>(user)->deregisterRadioEvent(kEvent, inCallback);
+        ++before;
+    });
+    std::atomic<bool> done = false;
+    const auto churn = [&](void* user) {
+        while (!done) {
+            client.registerRadioEvent(kEvent, user, passing);
+            client.deregisterRadioEvent(kEvent, passing);
+        }
+    };
+    client.registerRadioEvent(kEvent, nullptr, passing);
+    client.registerRadioEvent(kEvent, nullptr, [](RADIO_EVENT_TYPE, void*, void* data, int) {
+        after += *static_cast<int*>(data) == 7 ? 1 : kEvents;
+        after.notify_all();
+    });
+    std::thread others[] = {std::thread(churn, &client), std::thread(churn, &done)};
+    for (int sent = 0; sent < kEvents; sent += kAtOnce) {
+        control(
+            {{"command", "indicate"}, {"message", "test"}, {"slot", 1}, {"value", 7}, {"times", kAtOnce}});
+    }
+    for (int now = after; now < kEvents; now = after) {
+        after.wait(now);
+    }
+    done = true;
+    for (std::thread& other : others) {
+        other.join();
+    }
+    client.unregisterEvent();
+    EXPECT_EQ(before, kEvents);
+    EXPECT_EQ(after, kEvents);
 }
