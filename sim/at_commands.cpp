@@ -1,5 +1,6 @@
 #include "at_commands.h"
 
+#include "at_handlers.h"
 #include "at_interpreter.h"
 
 #include <algorithm>
@@ -33,6 +34,8 @@ bool fits(const AtParameter& parameter, const AtRule& rule)
     return measure && *measure >= rule.min && *measure <= rule.max;
 }
 
+} // namespace
+
 bool parametersFit(const AtCall& call)
 {
     const auto& rules = call.command.rules;
@@ -47,12 +50,6 @@ bool parametersFit(const AtCall& call)
     return true;
 }
 
-AtReply ok(const AtCall&)
-{
-    return {};
-}
-
-/// Checks the parameters by the command's rules and keeps them for its query.
 AtReply setStored(const AtCall& call)
 {
     if (!parametersFit(call)) {
@@ -78,7 +75,6 @@ AtReply queryStored(const AtCall& call)
     return {AtResult::Ok, {std::string(call.command.name) + ": " + atValue(call.slot, call.command.name)}};
 }
 
-/// Shows the ranges that the command's rules allow: +NAME: (0-3),(0-1)
 AtReply testStored(const AtCall& call)
 {
     std::string line;
@@ -90,6 +86,13 @@ AtReply testStored(const AtCall& call)
         line += ")";
     }
     return {AtResult::Ok, {line}};
+}
+
+namespace {
+
+AtReply ok(const AtCall&)
+{
+    return {};
 }
 
 /// ATE0 and ATE1; ATE alone means ATE0.
@@ -130,46 +133,6 @@ AtReply getImsi(const AtCall& call)
                                   : AtReply{AtResult::NoSimCard};
 }
 
-/// An item of the modem's configuration, NAME=OPERATION,"ITEM"[,VALUE...]: set with one of `setters`, read
-/// with `getter` once it was set.
-AtReply configureItem(const AtCall& call, std::string_view setters, std::string_view getter)
-{
-    const auto& parameters = call.parameters;
-    if (parameters.size() < 2 || !parameters[1].quoted) {
-        return {AtResult::BadParameters};
-    }
-    const std::string& operation = parameters[0].text;
-    const std::string name(call.command.name);
-    const std::string key = name + " " + parameters[1].text;
-    if (operation.size() == 1 && setters.find(operation) != std::string_view::npos && parameters.size() > 2) {
-        auto& values = call.slot.at[key];
-        values.clear();
-        for (size_t i = 2; i < parameters.size(); ++i) {
-            values.push_back(parameters[i].text);
-        }
-        return {};
-    }
-    const auto item = call.slot.at.find(key);
-    if (operation != getter || parameters.size() != 2 || item == call.slot.at.end()) {
-        return {AtResult::BadParameters};
-    }
-    std::string line = name + ": \"" + parameters[1].text + '"';
-    for (const std::string& value : item->second) {
-        line += "," + value;
-    }
-    return {AtResult::Ok, {line}};
-}
-
-AtReply configureModem(const AtCall& call)
-{
-    return configureItem(call, "1", "0");
-}
-
-AtReply configureSwitch(const AtCall& call)
-{
-    return configureItem(call, "56", "7");
-}
-
 constexpr AtRule kEcho[] = {{Type::Number, 0, 1, true}};
 constexpr AtRule kErrorMode[] = {{Type::Number, 0, 2, true}};
 constexpr AtRule kFunctionality[] = {{Type::Number, 0, 127}, {Type::Number, 0, 1, true}};
@@ -197,16 +160,20 @@ constexpr AtCommand kCommands[] = {
      .rules = kOperationMode,
      .initial = "2"},
     {.name = "+CIMI", .execute = getImsi, .test = ok},
-    {.name = "+EGMC", .set = configureModem},
-    {.name = "+ESBP", .set = configureSwitch},
 };
 
 } // namespace
 
 const AtCommand* findAtCommand(std::string_view name)
 {
-    const auto* found = std::ranges::find(kCommands, name, &AtCommand::name);
-    return found == std::end(kCommands) ? nullptr : found;
+    for (const std::span<const AtCommand> table :
+         {std::span<const AtCommand>(kCommands), configurationCommands()}) {
+        const auto found = std::ranges::find(table, name, &AtCommand::name);
+        if (found != table.end()) {
+            return &*found;
+        }
+    }
+    return nullptr;
 }
 
 std::string errorText(AtResult error)

@@ -1,4 +1,4 @@
-/// The AT commands that the modem knows. A new command is a row in at_commands.cpp.
+/// The AT commands that the modem knows. A new command is a row in one of the tables.
 #pragma once
 
 #include "at_line.h"

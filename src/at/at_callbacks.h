@@ -1,11 +1,11 @@
 /// Shared holders of the functions that an AT command ends in.
 #pragma once
 
-#include "mindroid/exception.h"
 #include "mindroid/object.h"
 #include "mindroid/parcel.h"
 #include "radio_apis/results.h"
 
+#include <exception>
 #include <functional>
 #include <utility>
 
@@ -18,14 +18,14 @@ public:
 
     explicit AtResponseCallback(Function function) : mFunction(std::move(function)) {}
 
-    /// The interpreter's verdict; RADIO_APIS_FAILURE when there is no interpreter, or when it reads what the
-    /// answer does not hold.
+    /// The interpreter's verdict; RADIO_APIS_FAILURE when there is no interpreter, or when it throws, as
+    /// those do that read what the answer does not hold.
     RADIO_APIS_RESULT interpret(const mindroid::sp<mindroid::Parcel>& answer,
                                 RadioApisResultType* record) const
     {
         try {
             return mFunction ? mFunction(answer, record) : RADIO_APIS_FAILURE;
-        } catch (const mindroid::Exception&) {
+        } catch (const std::exception&) {
             return RADIO_APIS_FAILURE;
         }
     }
