@@ -167,7 +167,7 @@ constexpr AtCommand kCommands[] = {
 const AtCommand* findAtCommand(std::string_view name)
 {
     for (const std::span<const AtCommand> table :
-         {std::span<const AtCommand>(kCommands), configurationCommands()}) {
+         {std::span<const AtCommand>(kCommands), bandCommands(), configurationCommands()}) {
         const auto found = std::ranges::find(table, name, &AtCommand::name);
         if (found != table.end()) {
             return &*found;

@@ -16,6 +16,7 @@ AtReply queryStored(const AtCall& call);
 AtReply testStored(const AtCall& call);
 
 /// The tables beside the basic one.
+std::span<const AtCommand> bandCommands();
 std::span<const AtCommand> configurationCommands();
 
 } // namespace sim

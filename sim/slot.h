@@ -1,6 +1,7 @@
 /// The state of one slot of the modem: what is in it, where it camps, what was set.
 #pragma once
 
+#include "bands.h"
 #include "cell.h"
 #include "stored_settings.h"
 
@@ -38,6 +39,7 @@ struct Slot {
     std::map<NvKey, Bytes> nv;
     StoredSettings settings;
     AtValues at;
+    Bands bands = supportedBands();
     std::map<uint16_t, uint32_t> indicationsSent; ///< how often, by message id
     uint32_t metricsReadings = 0;
     uint32_t previousMcc = 0; ///< of the network it was registered in before; 0: none

@@ -5,15 +5,16 @@
 ///   - takes its arguments, then a user data pointer, then a callback, which must not be null;
 ///   - copies what it needs from its arguments before it returns;
 ///   - returns 0 when the request was handed to the modem - the callback is then called exactly once, on the
-///   modem
-///     library's delivery thread - and another RADIO_APIS_RESULT when it was refused - the callback is then
-///     never called. Without an initialised instance that is RADIO_APIS_FAILURE.
+///     modem library's delivery thread, or, where several commands run in turn and one could not be sent, on
+///     the timer thread - and another RADIO_APIS_RESULT when it was refused - the callback is then never
+///     called. Without an initialised instance that is RADIO_APIS_FAILURE.
 ///
 /// Any function may be called from any thread, and from within a callback.
 #pragma once
 
 #include "radio_apis/antenna.h"
 #include "radio_apis/atom.h"
+#include "radio_apis/bands.h"
 #include "radio_apis/cell_info.h"
 #include "radio_apis/device_state.h"
 #include "radio_apis/events.h"
@@ -27,6 +28,7 @@
 #include "radio_apis/qos.h"
 #include "radio_apis/result.h"
 #include "radio_apis/results.h"
+#include "radio_apis/rf.h"
 #include "radio_apis/rf_icc.h"
 #include "radio_apis/sar.h"
 #include "radio_apis/scene.h"

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "radio_apis/atom.h"
+#include "radio_apis/bands.h"
 #include "radio_apis/cell_info.h"
 #include "radio_apis/device_state.h"
 #include "radio_apis/metrics.h"
@@ -43,6 +44,10 @@ struct RadioApisResultType {
         RfIccInfo rfIccInfo;
         RadioNetworkActionState networkActionState;
         RadioServiceMode serviceModeInfo;
+        RadioBandPrefer bandPrefer;
+        RadioBandModes bandModes;
+        RadioBandInfo bandInfo;
+        RadioBandTxNum bandTxNumInfo;
         RadioNvItem nvItemData;
         RadioModemVerdict nvWrite;
     } rsp;

@@ -5,6 +5,7 @@
 #include "channel/vorn_client.h"
 #include "mindroid/handler.h"
 #include "radio_apis/power.h"
+#include "radio_apis/rf.h"
 
 /// One per instance, held by strong pointers: a command on its way keeps its client.
 class VornAtClient : public VornClient, public mindroid::Handler {
@@ -35,6 +36,25 @@ public:
                                                     RadioApisResultType* record);
     static RADIO_APIS_RESULT completeWithoutResultCheck(const mindroid::sp<mindroid::Parcel>& answer,
                                                         RadioApisResultType* record);
+
+    // Bands. Lists of bands are bytes, most significant first.
+    int setBandPrefer(int rat, const unsigned char* bands, unsigned int length, void* userData,
+                      RadioRequestCallback cb);
+    int getBandPrefer(int rat, void* userData, RadioRequestCallback cb);
+    int getAvailableBandModes(void* userData, RadioRequestCallback cb);
+    int getBand(int nwType, void* userData, RadioRequestCallback cb);
+    int getBandsTxNum(int radioTech, int uiBand, int subband, void* userData, RadioRequestCallback cb);
+
+    /// Runs the commands that the RF feature file lists for a feature and index.
+    int setAsdivFixPosition(int featureId, int index, void* userData, RadioRequestCallback cb);
+
+    // Transmitter control is not supported: each logs so and returns 1.
+    int setTasForceIdxByRat(int rat, int index, int state, int mode, void* userData, RadioRequestCallback cb);
+    int setMaxTxPower(int rat, int band, int power, void* userData, RadioRequestCallback cb);
+    int setRfTxInfo(const RFTXINFO& info, void* userData, RadioRequestCallback cb);
+    int getTxAdc(const TXADCINFO& info, void* userData, RadioRequestCallback cb);
+    int setRfTxPower(const RFTXINFO& info, void* userData, RadioRequestCallback cb);
+    int setComboRfTxInfo(const std::vector<RFTXINFO>& infos, void* userData, RadioRequestCallback cb);
 
     int getServiceMode(void* userData, RadioRequestCallback cb);
 

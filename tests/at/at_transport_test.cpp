@@ -1,8 +1,5 @@
-#include "at/vorn_at_client.h"
+#include "at_fixture.h"
 #include "mindroid/exception.h"
-#include "support/request_rows.h"
-
-#include <gtest/gtest.h>
 
 using namespace test;
 using mindroid::Parcel;
@@ -20,12 +17,7 @@ RADIO_APIS_RESULT readInteger(const sp<Parcel>& answer, RadioApisResultType* rec
     return RADIO_APIS_SUCCESS;
 }
 
-struct AtTransport : testing::Test {
-    sp<VornAtClient> client = mindroid::make<VornAtClient>(false, 1);
-    FakeModem& modem = FakeModem::instance();
-    Caller caller;
-    LogCapture log;
-
+struct AtTransport : AtTest {
     /// Sends with one of the operations that answer a caller: 0 plain, 1 shared, 2 raw.
     int send(int operation, const AtResponseCallback::Function& interpreter)
     {
@@ -36,11 +28,6 @@ struct AtTransport : testing::Test {
                                 : client->sendAtCommandRspRawStr("AT+X", &caller, Caller::onResult, rsp);
     }
 };
-
-Fields answer(const char* text)
-{
-    return {result(0), test::text(0x8100, text)};
-}
 
 } // namespace
 

@@ -1,0 +1,120 @@
+/// Frequency bands: those that the modem may use, and those it could (3GPP TS 36.101, 38.101, 25.101, 45.005).
+///
+/// Bands cross this interface as bytes, most significant first; which bit stands for which band depends on the
+/// radio access technology:
+///
+///   GSM    4 bytes, one number: bit 1 GSM 900, bit 3 DCS 1800, bit 4 PCS 1900, bit 7 GSM 850.
+///          GSM 900 and DCS 1800: 00 00 00 0a.
+///   UMTS   4 bytes, one number: bit n-1 stands for band n.
+///   CDMA   4 bytes, one number: bit n stands for band class n.
+///   LTE    a number of 4 bytes for each 32 bands, the lowest bands first; in it bit n-1 stands for the n-th of
+///          its bands. Bands 1, 3 and 38: 00 00 00 05 00 00 00 20.
+///   NR     one number of a multiple of 4 bytes: bit n-1 stands for band n.
+///          n78 alone: 00 00 20 00 00 00 00 00 00 00 00 00 (bit 77).
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+
+/// The radio access technology of a band request.
+enum RadioBandRat : int32_t {
+    RADIO_BAND_GSM = 0,
+    RADIO_BAND_UMTS = 1,
+    RADIO_BAND_CDMA = 3,
+    RADIO_BAND_LTE = 4,
+    RADIO_BAND_NR = 5,       ///< the first of the modem's two lists for NR
+    RADIO_BAND_NR_SECOND = 6 ///< the second one
+};
+
+/// Added to a RadioBandRat: the bands in use instead of those that could be.
+inline constexpr int32_t kRadioCurrentBands = 0x10000;
+
+inline constexpr unsigned kRadioMaxBandBytes = 256;
+
+/// Result of radioGetBandPrefer.
+struct RadioBandPrefer {
+    int32_t rat;     ///< a RadioBandRat
+    int32_t current; ///< 1: the bands in use; 0: those that could be
+    uint32_t length; ///< bytes of `bands` that count
+    uint8_t bands[kRadioMaxBandBytes];
+};
+
+inline constexpr unsigned kRadioMaxLteBandWords = 16;
+
+/// Result of radioGetAvailableBandModes. The masks have the bits that the head of this file tells.
+struct RadioBandModes {
+    uint32_t gsm;
+    uint32_t umts;
+    uint32_t lteWords; ///< words of `lte` that count
+    uint32_t lte[kRadioMaxLteBandWords];
+};
+
+/// Result of radioGetBand. For LTE and NR bit n-1 stands for band n; for the others bits are those of user
+/// interfaces: GSM 850, 900, 1800 and 1900 are bits 19, 8, 7 and 21; UMTS bands 1, 2, 4, 5, 8, 9 and 19 are
+/// bits 22, 23, 25, 26, 49, 50 and 60; CDMA band class 0 is bit 1. Bands without a bit are not told.
+struct RadioBandInfo {
+    int32_t nwType; ///< as requested
+    uint64_t low;   ///< bits 0 to 63
+    uint64_t high;  ///< bits 64 to 127
+};
+
+/// Result of radioGetBandsTxNum.
+struct RadioBandTxNum {
+    int32_t bandTxNum; ///< number of transmit paths
+};
+
+extern "C" {
+
+/// Sets the bands that the modem may use with one radio access technology.
+///
+/// @param rat       a RadioBandRat; only its low 16 bits count
+/// @param bands     bytes as the head of this file tells; of GSM, UMTS and CDMA the first four count
+/// @param length    bytes, a multiple of 4. The command has room for `length` + 127 characters and is cut
+///                  there, which NR reaches above 112 bytes and LTE with many large numbers
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the bands, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem; 1 when refused, as for null bands, any other length or another rat
+RADIO_API int radioSetBandPrefer(int rat, const unsigned char* bands, unsigned int length, void* userData,
+                                 RadioRequestCallback callback);
+
+/// The bands of one radio access technology.
+///
+/// @param rat       a RadioBandRat, with kRadioCurrentBands added for the bands in use; CDMA has only those
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandPrefer`; with RADIO_APIS_FAILURE and a
+///                  record without bands when the answer has none that can be read; or with the modem's failure
+///                  and no record
+/// @return 0 when handed to the modem, 1 when refused, as for another rat
+RADIO_API int radioGetBandPrefer(int rat, void* userData, RadioRequestCallback callback);
+
+/// The bands in use with GSM, UMTS and LTE.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandModes`; with RADIO_APIS_FAILURE and a
+///                  zeroed record when the answer lacks the masks of GSM and UMTS or has something else than
+///                  numbers; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetAvailableBandModes(void* userData, RadioRequestCallback callback);
+
+/// The bands that the modem could use with one radio access technology, in the bits of user interfaces. For
+/// CDMA, whose side of the modem may be off, it is first switched on: world mode policy 0, then CDMA as the
+/// active technology. It stays on.
+///
+/// @param nwType    RADIO_BAND_GSM, _UMTS, _CDMA, _LTE or _NR
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandInfo`; with RADIO_APIS_FAILURE and a
+///                  zeroed record when the answer can't be read or, for CDMA, a step failed; or with the
+///                  modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused, as for another nwType
+RADIO_API int radioGetBand(int nwType, void* userData, RadioRequestCallback callback);
+
+/// How many transmit paths a band has.
+///
+/// @param radioTech  radio access technology, as the modem numbers them
+/// @param uiBand     the band
+/// @param subband    part of the band; logged, since the modem's answer is for the whole band
+/// @param callback   called once with RADIO_APIS_SUCCESS and `rsp.bandTxNumInfo`, or with RADIO_APIS_FAILURE
+///                   and a zeroed record when the modem refused or answered no number
+/// @return 0 once started, also when the modem then can't be reached
+RADIO_API int radioGetBandsTxNum(int radioTech, int uiBand, int subband, void* userData,
+                                 RadioRequestCallback callback);
+
+} // extern "C"

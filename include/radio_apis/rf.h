@@ -1,0 +1,49 @@
+/// Radio frequency control.
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+#include <vector>
+
+/// A transmitter setting. Requests with it are refused: its members are never read.
+struct RFTXINFO {
+    int32_t rat;     ///< radio access technology
+    int32_t band;    ///< operating band
+    int32_t channel; ///< ARFCN
+    int32_t power;   ///< dBm
+    int32_t antenna; ///< transmit path
+};
+
+/// A transmitter reading. Requests with it are refused: its members are never read.
+struct TXADCINFO {
+    int32_t rat;     ///< radio access technology
+    int32_t antenna; ///< transmit path
+};
+
+extern "C" {
+
+/// Fixes the antennas of one RF feature to one of its positions: runs the AT commands that the device's RF
+/// feature file lists for them, one after the other.
+///
+/// @param featureId  a feature of the file
+/// @param index      one of its positions
+/// @param callback   called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
+///                   RADIO_APIS_FAILURE; the record is empty
+/// @return 0 once started, also when the modem then can't be reached; 1 when refused, as when the file lists no
+///         command for this position or one that is more than a line
+RADIO_API int radioSetAsdivFixPosition(int featureId, int index, void* userData,
+                                       RadioRequestCallback callback);
+
+/// Transmitter control of test benches. This library does not support it: each of the following functions
+/// logs so and returns 1; the callback is not called.
+RADIO_API int radioSetTasForceIdxByRat(int rat, int index, int state, int mode, void* userData,
+                                       RadioRequestCallback callback);
+RADIO_API int radioSetMaxTxPower(int rat, int band, int power, void* userData, RadioRequestCallback callback);
+RADIO_API int radioSetRfTxInfo(const RFTXINFO& info, void* userData, RadioRequestCallback callback);
+RADIO_API int radioGetTxAdc(const TXADCINFO& info, void* userData, RadioRequestCallback callback);
+RADIO_API int radioSetRfTxPower(const RFTXINFO& info, void* userData, RadioRequestCallback callback);
+RADIO_API int radioSetComboRfTxInfo(const std::vector<RFTXINFO>& infos, void* userData,
+                                    RadioRequestCallback callback);
+
+} // extern "C"

@@ -1,0 +1,180 @@
+#include "at/rf_config_parser.h"
+
+#include "android/log.h"
+#include "channel/device_path.h"
+
+#include <tinyxml2.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+
+using tinyxml2::XMLElement;
+
+namespace {
+
+constexpr char kFile[] = "/my_product/etc/rf_feature_config.xml";
+constexpr size_t kGrowth = 5;
+
+template <typename... Arguments>
+void log(const char* format, Arguments... arguments)
+{
+    __android_log_print(ANDROID_LOG_DEBUG, nullptr, format, arguments...);
+}
+
+/// Lists are short: they grow in small steps.
+void append(std::vector<std::string>& commands, const char* command)
+{
+    if (commands.size() == commands.capacity()) {
+        commands.reserve(commands.capacity() + kGrowth);
+    }
+    commands.emplace_back(command);
+}
+
+/// Adds the command of one tag, if it makes one; false when the tag is malformed.
+bool addCommand(const XMLElement& tag, std::vector<std::string>& commands)
+{
+    const char* command = tag.Attribute("command");
+    const char* text = tag.GetText();
+    if (command == nullptr && text == nullptr) {
+        log("invalid cmd tag found with no command and no value!stop!\n");
+        return false;
+    }
+    if (command == nullptr) {
+        log("old format AT command\n");
+        append(commands, text);
+        return true;
+    }
+    if (text == nullptr) {
+        log("unknown format AT command\n");
+        return true;
+    }
+    log("parse cmd tag: %s, params:%s\n", command, text);
+    const std::unique_ptr<char, decltype(&std::free)> built(RfConfigParser::getAtCmd(command, text),
+                                                            std::free);
+    log("construced: %s\n", built ? built.get() : "(null)");
+    if (built) {
+        append(commands, built.get());
+    }
+    return true;
+}
+
+bool addCommands(const XMLElement& index, std::vector<std::string>& commands)
+{
+    for (const XMLElement* tag = index.FirstChildElement("cmd"); tag != nullptr;
+         tag = tag->NextSiblingElement("cmd")) {
+        if (!addCommand(*tag, commands)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+const std::pair<const char*, const char*> RfConfigParser::AT_COMMAND_COMBO[12] = {
+    {"rat-4", "AT+ETXANT=4,"},
+    {"rat-4-cls-fix", "AT+ETXANT="},
+    {"rat-5", R"(AT+EGMC=1,"NrForceTxRx",4,)"},
+    {"rat-5-cls-fix", R"(AT+EGMC=1,"NrForceTxRx",)"},
+    {"rat-tdd", R"(AT+EGMC=1,"lte_tdd_tx_rx",)"},
+    {"rat-4-lte", "AT+ETXANT=6,"},
+    {"rat-5-nr", R"(AT+EGMC=1,"NrForceTxRx",10,)"},
+    {"rat-6-lte", R"(AT+EGMC=1,"lte_force_ttps",)"},
+    {"rat-6-nr", R"(AT+EGMC=1,"NR_force_TTPS",)"},
+    {"sar", "AT+ERFIDX="},
+    {"forbid-lte", R"(AT+EGMC=1,"lte_utas_forbid_state",)"},
+    {"forbid-nr", R"(AT+EGMC=1,"NrTas_forbid_state",)"},
+};
+
+RfConfigParser::RfConfigParser()
+{
+    parse();
+}
+
+const RfConfigParser& RfConfigParser::instance()
+{
+    static const RfConfigParser parser;
+    return parser;
+}
+
+void RfConfigParser::parse()
+{
+    log("%s begin: %s\n", "parse", kFile);
+    tinyxml2::XMLDocument document;
+    if (document.LoadFile(devicePath(kFile).c_str()) != tinyxml2::XML_SUCCESS) {
+        log("%s load file filed!stop!\n", "parse");
+        return;
+    }
+    const XMLElement* feature = document.FirstChildElement("feature");
+    int id = 0;
+    if (feature == nullptr || feature->QueryIntAttribute("id", &id) != tinyxml2::XML_SUCCESS) {
+        log("invalid feature tag with no id attribute!stop!\n");
+        return;
+    }
+    log("FEATURE ID:%d\n", id);
+    Indices& indices = mFeatures[id];
+    for (const XMLElement* tag = feature->FirstChildElement("atcmd"); tag != nullptr;
+         tag = tag->NextSiblingElement("atcmd")) {
+        int index = 0;
+        if (tag->QueryIntAttribute("index", &index) != tinyxml2::XML_SUCCESS) {
+            log("invalid atcmd tag with no index attribute!stop!\n");
+            return;
+        }
+        const auto [place, isNew] = indices.try_emplace(index);
+        if (!isNew) {
+            log("repeated index %d attribute found! stop!\n", index);
+            return;
+        }
+        auto& commands = place->second;
+        if (!addCommands(*tag, commands)) {
+            return;
+        }
+        log("FEATURE INDEX:%d, CAPACITY: %ld, SIZE:%ld\n", index, static_cast<long>(commands.capacity()),
+            static_cast<long>(commands.size()));
+    }
+    log("%s end\n", "parse");
+    dump();
+}
+
+char* RfConfigParser::getAtCmd(const char* command, const char* params)
+{
+    const auto* entry = std::ranges::find_if(
+        AT_COMMAND_COMBO, [=](const auto& pair) { return std::strcmp(pair.first, command) == 0; });
+    if (entry == std::end(AT_COMMAND_COMBO)) {
+        return nullptr;
+    }
+    const size_t prefix = std::strlen(entry->second);
+    const size_t rest = std::strlen(params);
+    auto* text = static_cast<char*>(std::calloc(prefix + rest + 1, 1));
+    if (text != nullptr) {
+        std::memcpy(text, entry->second, prefix);
+        std::memcpy(text + prefix, params, rest);
+    }
+    return text;
+}
+
+const std::vector<std::string>* RfConfigParser::getAtCmdByFeatureId(int featureId, int index) const
+{
+    log("getAtCmdByFeatureId: params:%d, %d\n", featureId, index);
+    const auto feature = mFeatures.find(featureId);
+    if (feature == mFeatures.end()) {
+        return nullptr;
+    }
+    const auto commands = feature->second.find(index);
+    return commands == feature->second.end() ? nullptr : &commands->second;
+}
+
+void RfConfigParser::dump() const
+{
+    for (const auto& [id, indices] : mFeatures) {
+        log("feature[%d]\n", id);
+        for (const auto& [index, commands] : indices) {
+            log("  index[%d], addr:%p\n", index, static_cast<const void*>(&commands));
+            for (const std::string& command : commands) {
+                log("    %s\n", command.c_str());
+            }
+        }
+    }
+}
