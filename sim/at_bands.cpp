@@ -217,6 +217,17 @@ const Bands& supportedBands()
     return bands;
 }
 
+AtReply countTransmitPaths(const AtCall& call)
+{
+    // Two where the bands of NR are that wide; the technology makes no difference here.
+    const auto band = toMask(call.parameters[3]);
+    if (!band) {
+        return {AtResult::BadParameters};
+    }
+    const bool wide = *band == 41 || (*band >= 77 && *band <= 79);
+    return {AtResult::Ok, {wide ? R"(+EGMC: "QueryTxVerifyIdx",2)" : R"(+EGMC: "QueryTxVerifyIdx",1)"}};
+}
+
 std::span<const AtCommand> bandCommands()
 {
     return kCommands;

@@ -37,6 +37,9 @@ AtReply configureItem(const AtCall& call, std::string_view setters, std::string_
 
 AtReply configureModem(const AtCall& call)
 {
+    if (call.parameters.size() == 4 && call.parameters[1].text == "QueryTxVerifyIdx") {
+        return countTransmitPaths(call);
+    }
     return configureItem(call, "1", "0");
 }
 

@@ -15,6 +15,9 @@ AtReply queryStored(const AtCall& call);
 /// Shows the ranges that the command's rules allow: +NAME: (0-3),(0-1)
 AtReply testStored(const AtCall& call);
 
+/// +EGMC=1,"QueryTxVerifyIdx",<technology>,<band>: a question in the form of a setting.
+AtReply countTransmitPaths(const AtCall& call);
+
 /// The tables beside the basic one.
 std::span<const AtCommand> bandCommands();
 std::span<const AtCommand> configurationCommands();

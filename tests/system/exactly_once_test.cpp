@@ -1,5 +1,6 @@
 /// The library over the real message library and the simulated modem: every accepted request is answered
 /// once, and every event told once, whatever the modem, the link and other threads do.
+#include "at/at_chain_promise.h"
 #include "host/clock.h"
 #include "host/device.h"
 #include "host/vorn_control.h"
@@ -200,6 +201,40 @@ TEST_F(ExactlyOnce, FromManyThreadsOnThreeInstances)
     }
     answers.expectOnceEach(kThreads * kPerThread);
     EXPECT_EQ(answers.failures(), 0u);
+}
+
+TEST_F(ExactlyOnce, ChainsFromManyThreadsOnThreeInstances)
+{
+    constexpr size_t kPerThread = 2500;
+    constexpr size_t kThreads = 4;
+    constexpr int kCommands = 3;
+    Answers answers(kThreads * kPerThread);
+    std::vector<std::thread> threads;
+    std::atomic<int> outOfOrder = 0;
+    for (size_t t = 0; t < kThreads; ++t) {
+        threads.emplace_back([&, t] {
+            for (size_t i = t * kPerThread; i < (t + 1) * kPerThread; ++i) {
+                const auto client = mindroid::make<VornAtClient>(false, static_cast<int>(i % 3));
+                const auto done = std::make_shared<int>(0);
+                const auto chain = mindroid::make<AtChain>();
+                for (int command = 0; command < kCommands; ++command) {
+                    const bool fails = i % 10 == 0 && command == 1;
+                    chain->add(fails ? "AT+CEMODE=9" : "AT+CEMODE?",
+                               [=, &outOfOrder](auto& answer, auto* record) {
+                                   outOfOrder += (*done)++ != command;
+                                   return VornAtClient::completeWithResultVoid(answer, record);
+                               });
+                }
+                chain->start(client, answers.userData(i), Answers::onResult);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    answers.expectOnceEach(kThreads * kPerThread);
+    EXPECT_EQ(answers.failures(), kThreads * kPerThread / 10);
+    EXPECT_EQ(outOfOrder, 0);
 }
 
 TEST_F(ExactlyOnce, EventsWhileListenersComeAndGo)

@@ -140,7 +140,30 @@ const Example kExamples[] = {
     {"get-atom-data 1 0 6", R"({"data": "060000000100000002000000"})"},
     {"write-nv 100 0 \"0102ab\"", R"({"failure": 0})"},
     {"read-nv 0x64 0", R"({"dataLen": 3, "data": "0102ab"})"},
+    {"set-band-prefer lte --bands 1,3,38",
+     R"({"rat": "lte", "bands": "1,3,38", "bytes": "0000000500000020"})"},
+    {"get-band-prefer lte --current", R"({"bands": "1,3,38", "current": 1})"},
+    {"set-band-prefer nr --bands n78,1", R"({"bytes": "00000000000020000000000000000001"})"},
+    {"get-band-prefer nr --current", R"({"bands": "n1,n78", "bytes": "00000000000020000000000000000001"})"},
+    {"set-band-prefer nr-second 00000004", R"({"bands": "n3"})"},
+    {"get-band-prefer nr-second --current", R"({"bands": "n3"})"},
+    {"set-band-prefer gsm --bands 900,850", R"({"bytes": "00000082"})"},
+    {"get-band-prefer gsm --current", R"({"bands": "900,850"})"},
+    {"set-band-prefer umts 00000010", R"({"bands": "5"})"},
+    {"get-available-band-modes", R"({"gsm": 130, "umts": 16, "lte": [5,32,0,0,0,0,0,0]})"},
+    {"get-band-prefer umts", R"({"bands": "1,2,4,5,8,9,19", "current": 0})"},
+    {"set-band-prefer cdma --bands 0", ""},
+    {"get-band-prefer cdma", R"({"bands": "0"})"},
+    {"get-band 0", R"({"low": 2621824, "high": 0})"},
+    {"get-band 3", R"({"low": 2})"},
+    {"get-bands-tx-num 5 78 0", R"({"bandTxNum": 2})"},
+    {"set-asdiv-fix-position 1 2", ""},
 };
+
+/// Requests that the library does not support.
+const std::set<std::string> kRefused = {
+    "set-tas-force-idx-by-rat 1 2 3 4", "set-max-tx-power 1 2 3", "set-rf-tx-info rat=1", "get-tx-adc",
+    "set-rf-tx-power band=1",           "set-combo-rf-tx-info"};
 
 /// The functions of the public headers that take a request callback, but for the registrations.
 std::set<std::string> publicRequests()
@@ -273,6 +296,12 @@ TEST(Radioctl, SendsEveryRequest)
         shown.insert(nameOf(example));
         batch += example.line + "\n";
     }
+    for (const std::string& line : kRefused) {
+        shown.insert(line.substr(0, line.find(' ')));
+        const Ran ran = radioctl(line);
+        EXPECT_EQ(ran.status, 1) << line;
+        EXPECT_THAT(ran.output, HasSubstr("refused, result 1"));
+    }
     for (const json& request : json::parse(radioctl("list --json").output)) {
         EXPECT_TRUE(shown.contains(request.at("name"))) << request << " has no example";
     }
@@ -319,6 +348,13 @@ TEST(Radioctl, TellsWhatWentWrong)
          "at most 20 are allowed"},
         {"send-rf-icc-mode-state 1 2 3 256", "", 2, "mode4: '256' is not a number from 0 to 255"},
         {"set-ant-force-state-by-rat 5 1", "", 2, "rat: '5' is not a number from 0 to 4"},
+        {"set-band-prefer 5g --bands 1", "", 2, "rat: '5g' is none of gsm, umts"},
+        {"set-band-prefer lte 1,3", "", 2, "is not pairs of hexadecimal digits"},
+        {"set-band-prefer lte --bands 0", "", 2, "--bands: '0' is not a number from 1"},
+        {"set-band-prefer gsm --bands 1", "", 2, "'1' is none of 850, 900, 1800 and 1900"},
+        {"set-band-prefer lte --bands 6", "", 1, "failed, result 1"},
+        {"get-band-prefer nr --now", "", 2, "rat: '--now' is not --current"},
+        {"set-asdiv-fix-position 1 9", "", 1, "refused, result 1"},
         {"set-ims-rtp-info id", "", 2, "info: 'id' is not MEMBER=VALUE"},
         {"set-ims-rtp-info id=1 id=2", "", 2, "info.id is given twice"},
         {"set-ims-rtp-info ip=1", "", 2, "info has no member 'ip'; it has id, state"},

@@ -28,7 +28,8 @@ struct Request {
     std::string help;
     std::vector<Argument> arguments;
     std::function<int(const Arguments& in, Reply to)> send;
-    std::function<Json(const Rsp&)> show; ///< empty when the answer carries nothing
+    std::function<Json(const Rsp&)> show;                     ///< empty when the answer carries nothing
+    std::function<Json(const Arguments&)> showSent = nullptr; ///< for what is written in several forms
 
     /// The entry point's name on the command line: radioGetLteCellInfo is get-lte-cell-info.
     std::string name() const;
@@ -57,5 +58,7 @@ std::vector<Request> indicationRequests();
 std::vector<Request> metricsRequests();
 std::vector<Request> atomRequests();
 std::vector<Request> nvRequests();
+std::vector<Request> bandRequests();
+std::vector<Request> rfRequests();
 
 } // namespace radioctl

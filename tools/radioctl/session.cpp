@@ -84,7 +84,11 @@ Outcome Session::run(const Request& request, const Arguments& arguments) const
     if (!pending->answered.wait_for(lock, mTimeout, [&] { return pending->outcome.has_value(); })) {
         return {};
     }
-    return *pending->outcome;
+    Outcome outcome = *pending->outcome;
+    if (request.showSent && outcome.succeeded()) {
+        outcome.record = request.showSent(arguments);
+    }
+    return outcome;
 }
 
 } // namespace radioctl
