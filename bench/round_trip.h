@@ -2,6 +2,8 @@
 /// whatever else the machine does.
 #pragma once
 
+#include "vorn/vorn_msg.h"
+
 #include <benchmark/benchmark.h>
 
 /// Opens the library on the simulated modem in this process.
@@ -13,6 +15,9 @@ void answerCame();
 /// Waits for it.
 void waitForAnswer();
 
+/// Sends a finished message without the library, frees it and waits for its answer.
+void sendStraight(vorn_msg_t* request);
+
 /// Measures two ways of doing the same: time and heap allocations of each on the sending thread, and the
-/// ratio of the times. Each way sends one request and waits for its answer.
+/// ratio of the times. Each way waits for what it sends.
 void comparePairs(benchmark::State& state, void (*throughLibrary)(), void (*straight)());

@@ -12,7 +12,15 @@ using test::FakeModem;
 void onResult(void* calls, RADIO_APIS_RESULT, RadioApisResultType* record)
 {
     ++*static_cast<int*>(calls);
-    if (record == nullptr || record->rsp.bandPrefer.length > kRadioMaxBandBytes) {
+    if (record == nullptr) {
+        std::abort();
+    }
+}
+
+void onBandPrefer(void* calls, RADIO_APIS_RESULT result, RadioApisResultType* record)
+{
+    onResult(calls, result, record);
+    if (record->rsp.bandPrefer.length > kRadioMaxBandBytes) {
         std::abort();
     }
 }
@@ -31,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     int calls = 0;
     int refused = 0;
     if (question < 8) {
-        refused = client->getBandPrefer(question, &calls, onResult);
+        refused = client->getBandPrefer(question, &calls, onBandPrefer);
     } else if (question < 14) {
         refused = client->getBand(question - 8, &calls, onResult);
     } else if (question == 14) {

@@ -17,11 +17,9 @@ namespace {
 constexpr char kFile[] = "/my_product/etc/rf_feature_config.xml";
 constexpr size_t kGrowth = 5;
 
-template <typename... Arguments>
-void log(const char* format, Arguments... arguments)
-{
-    __android_log_print(ANDROID_LOG_DEBUG, nullptr, format, arguments...);
-}
+// How this file's lines stand in the log.
+constexpr auto kDebug = ANDROID_LOG_DEBUG;
+constexpr const char* kNoTag = nullptr;
 
 /// Lists are short: they grow in small steps.
 void append(std::vector<std::string>& commands, const char* command)
@@ -38,22 +36,22 @@ bool addCommand(const XMLElement& tag, std::vector<std::string>& commands)
     const char* command = tag.Attribute("command");
     const char* text = tag.GetText();
     if (command == nullptr && text == nullptr) {
-        log("invalid cmd tag found with no command and no value!stop!\n");
+        __android_log_print(kDebug, kNoTag, "invalid cmd tag found with no command and no value!stop!\n");
         return false;
     }
     if (command == nullptr) {
-        log("old format AT command\n");
+        __android_log_print(kDebug, kNoTag, "old format AT command\n");
         append(commands, text);
         return true;
     }
     if (text == nullptr) {
-        log("unknown format AT command\n");
+        __android_log_print(kDebug, kNoTag, "unknown format AT command\n");
         return true;
     }
-    log("parse cmd tag: %s, params:%s\n", command, text);
+    __android_log_print(kDebug, kNoTag, "parse cmd tag: %s, params:%s\n", command, text);
     const std::unique_ptr<char, decltype(&std::free)> built(RfConfigParser::getAtCmd(command, text),
                                                             std::free);
-    log("construced: %s\n", built ? built.get() : "(null)");
+    __android_log_print(kDebug, kNoTag, "construced: %s\n", built ? built.get() : "(null)");
     if (built) {
         append(commands, built.get());
     }
@@ -101,40 +99,40 @@ const RfConfigParser& RfConfigParser::instance()
 
 void RfConfigParser::parse()
 {
-    log("%s begin: %s\n", "parse", kFile);
+    __android_log_print(kDebug, kNoTag, "%s begin: %s\n", "parse", kFile);
     tinyxml2::XMLDocument document;
     if (document.LoadFile(devicePath(kFile).c_str()) != tinyxml2::XML_SUCCESS) {
-        log("%s load file filed!stop!\n", "parse");
+        __android_log_print(kDebug, kNoTag, "%s load file filed!stop!\n", "parse");
         return;
     }
     const XMLElement* feature = document.FirstChildElement("feature");
     int id = 0;
     if (feature == nullptr || feature->QueryIntAttribute("id", &id) != tinyxml2::XML_SUCCESS) {
-        log("invalid feature tag with no id attribute!stop!\n");
+        __android_log_print(kDebug, kNoTag, "invalid feature tag with no id attribute!stop!\n");
         return;
     }
-    log("FEATURE ID:%d\n", id);
+    __android_log_print(kDebug, kNoTag, "FEATURE ID:%d\n", id);
     Indices& indices = mFeatures[id];
     for (const XMLElement* tag = feature->FirstChildElement("atcmd"); tag != nullptr;
          tag = tag->NextSiblingElement("atcmd")) {
         int index = 0;
         if (tag->QueryIntAttribute("index", &index) != tinyxml2::XML_SUCCESS) {
-            log("invalid atcmd tag with no index attribute!stop!\n");
+            __android_log_print(kDebug, kNoTag, "invalid atcmd tag with no index attribute!stop!\n");
             return;
         }
         const auto [place, isNew] = indices.try_emplace(index);
         if (!isNew) {
-            log("repeated index %d attribute found! stop!\n", index);
+            __android_log_print(kDebug, kNoTag, "repeated index %d attribute found! stop!\n", index);
             return;
         }
         auto& commands = place->second;
         if (!addCommands(*tag, commands)) {
             return;
         }
-        log("FEATURE INDEX:%d, CAPACITY: %ld, SIZE:%ld\n", index, static_cast<long>(commands.capacity()),
-            static_cast<long>(commands.size()));
+        __android_log_print(kDebug, kNoTag, "FEATURE INDEX:%d, CAPACITY: %ld, SIZE:%ld\n", index,
+                            static_cast<long>(commands.capacity()), static_cast<long>(commands.size()));
     }
-    log("%s end\n", "parse");
+    __android_log_print(kDebug, kNoTag, "%s end\n", "parse");
     dump();
 }
 
@@ -157,7 +155,7 @@ char* RfConfigParser::getAtCmd(const char* command, const char* params)
 
 const std::vector<std::string>* RfConfigParser::getAtCmdByFeatureId(int featureId, int index) const
 {
-    log("getAtCmdByFeatureId: params:%d, %d\n", featureId, index);
+    __android_log_print(kDebug, kNoTag, "getAtCmdByFeatureId: params:%d, %d\n", featureId, index);
     const auto feature = mFeatures.find(featureId);
     if (feature == mFeatures.end()) {
         return nullptr;
@@ -169,11 +167,12 @@ const std::vector<std::string>* RfConfigParser::getAtCmdByFeatureId(int featureI
 void RfConfigParser::dump() const
 {
     for (const auto& [id, indices] : mFeatures) {
-        log("feature[%d]\n", id);
+        __android_log_print(kDebug, kNoTag, "feature[%d]\n", id);
         for (const auto& [index, commands] : indices) {
-            log("  index[%d], addr:%p\n", index, static_cast<const void*>(&commands));
+            __android_log_print(kDebug, kNoTag, "  index[%d], addr:%p\n", index,
+                                static_cast<const void*>(&commands));
             for (const std::string& command : commands) {
-                log("    %s\n", command.c_str());
+                __android_log_print(kDebug, kNoTag, "    %s\n", command.c_str());
             }
         }
     }
