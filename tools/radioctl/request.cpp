@@ -44,9 +44,10 @@ const std::vector<Request>& requests()
 {
     static const std::vector<Request> all = [] {
         std::vector<Request> rows;
-        for (auto part : {cellRequests, deviceRequests, antennaRequests, powerRequests, sceneRequests,
-                          simRequests, serviceRequests, networkRequests, coexistenceRequests,
-                          indicationRequests, metricsRequests, atomRequests, nvRequests}) {
+        for (auto part :
+             {cellRequests, deviceRequests, antennaRequests, powerRequests, sceneRequests, simRequests,
+              serviceRequests, redundancyRequests, networkRequests, coexistenceRequests, indicationRequests,
+              metricsRequests, atomRequests, nvRequests}) {
             std::ranges::move(part(), std::back_inserter(rows));
         }
         return rows;
