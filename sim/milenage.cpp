@@ -32,7 +32,7 @@ Block encrypt(const Block& key, const Block& block)
 /// To the left, by whole bytes.
 Block rotated(Block block, size_t bytes)
 {
-    std::ranges::rotate(block, block.begin() + static_cast<std::ptrdiff_t>(bytes));
+    std::rotate(block.begin(), block.begin() + static_cast<std::ptrdiff_t>(bytes), block.end());
     return block;
 }
 
