@@ -136,6 +136,56 @@ void networkAction128(benchmark::State& state)
 }
 BENCHMARK(networkAction128)->Unit(benchmark::kMillisecond);
 
+constexpr int32_t kNvItem = 100;
+
+const std::vector<uint8_t>& largestNvItem()
+{
+    static const std::vector<uint8_t> data(kRadioMaxNvBytes, 0xA5);
+    return data;
+}
+
+void writeNvStraight()
+{
+    const auto& data = largestNvItem();
+    vorn_msg_t* request = vorn_msg_init(51, 1);
+    addInt32(request, 256, kNvItem);
+    addInt32(request, 257, 0);
+    vorn_msg_add_tlv(request, 0x8102, static_cast<uint16_t>(data.size()), data.data());
+    send(request);
+}
+
+void nvWrite20480(benchmark::State& state)
+{
+    comparePairs(
+        state,
+        [] {
+            const auto& data = largestNvItem();
+            radioWriteNv(kNvItem, 0, data.data(), kRadioMaxNvBytes, nullptr, onResult);
+            waitForAnswer();
+        },
+        writeNvStraight);
+}
+BENCHMARK(nvWrite20480)->Unit(benchmark::kMillisecond);
+
+void nvRead20480(benchmark::State& state)
+{
+    openLibrary();
+    writeNvStraight();
+    comparePairs(
+        state,
+        [] {
+            radioReadNv(kNvItem, 0, nullptr, onResult);
+            waitForAnswer();
+        },
+        [] {
+            vorn_msg_t* request = vorn_msg_init(53, 1);
+            addInt32(request, 256, kNvItem);
+            addInt32(request, 257, 0);
+            send(request);
+        });
+}
+BENCHMARK(nvRead20480)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 void openLibrary()

@@ -57,6 +57,14 @@ Fields thisAtom(const Slot& slot, const Request& request)
     return blockContents(atomRecord(slot, request.fields.number<int32_t>(256)));
 }
 
+Fields controlOfCall(const Slot&, const Request& request)
+{
+    Fields fields;
+    fields.setNumber(256, request.fields.number<uint8_t>(256));
+    fields.setNumber(257, request.fields.number<int32_t>(257));
+    return fields;
+}
+
 struct Row {
     std::string_view request;
     std::string_view indication;
@@ -71,12 +79,17 @@ constexpr Row kRows[] = {
     {"SendScreenState", "ServingCellInfoInd", screenIsOn},
     {"SetAtomStatus", "AtomDataInd", always, thisAtom},
     {"SetHyperUplinkMode", "HyperUplinkStateInd"},
+    {"SetImsRtpRedunControlInfo", "CallRtpSessionMlcInd", hasRemoteKey, controlOfCall},
+    {"SetOperationMode", "NwEtxPwrInd"},
+    {"SetOperationMode", "DataIfupPacketRouteInd"},
     {"SetRlkBlob", "RlkStatusInd", always, lockData},
     {"SetRlkStatus", "RlkStatusInd", always, lockData},
     {"SetSceneMode", "SceneModeInd"},
     {"SetSceneMode", "HyperUplinkStateInd", hyperUplinkIsOn},
     {"SetSmlBlob", "SmlStatusInd", always, lockData},
     {"SetSmlStatus", "SmlStatusInd", always, lockData},
+    {"SetUimPower", "MsimSubModeInd"},
+    {"SetUimPower", "SingleSimChangeInd"},
     {"SetVeyraConfigPolicy", "VeyraCellInfoInd", reportsAreOn},
 };
 

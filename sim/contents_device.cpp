@@ -112,11 +112,12 @@ Fields testContents(const Subject& subject)
     return fields;
 }
 
-Fields transmitPowerContents(const Subject&)
+/// In eighths; nothing is sent without service.
+Fields transmitPowerContents(const Subject& subject)
 {
     constexpr int32_t kEighths = 8;
     Fields fields;
-    fields.setNumber(257, kTransmitPower * kEighths);
+    fields.setNumber(257, subject.slot.camped() != nullptr ? kTransmitPower * kEighths : 0);
     return fields;
 }
 

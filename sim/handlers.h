@@ -3,6 +3,8 @@
 
 #include "slot.h"
 
+#include <span>
+
 namespace sim {
 
 /// Results that the modem gives in field 0.
@@ -16,6 +18,7 @@ enum class ModemResult : int32_t {
 struct Request {
     const MessageSpec& spec;
     const Fields& fields;
+    std::span<const Slot> slots = {}; ///< all of the modem's
 };
 
 struct Answer {
@@ -54,6 +57,11 @@ Answer rollbackNetworkAction(Slot& slot, const Request& request);
 Answer getNetworkActionState(Slot& slot, const Request& request);
 
 // handlers_device.cpp
+Answer getCarkit(Slot& slot, const Request& request);
+Answer getMultiSimState(Slot& slot, const Request& request);
+Answer getOperationMode(Slot& slot, const Request& request);
+Answer setOperationMode(Slot& slot, const Request& request);
+Answer sendDeviceState(Slot& slot, const Request& request);
 Answer getSimTrays(Slot& slot, const Request& request);
 Answer setLockData(Slot& slot, const Request& request);
 Answer getNecData(Slot& slot, const Request& request);
@@ -61,5 +69,18 @@ Answer getProtocolInfo(Slot& slot, const Request& request);
 Answer getHeapList(Slot& slot, const Request& request);
 Answer getPowerStatistics(Slot& slot, const Request& request);
 Answer getRfIccInfo(Slot& slot, const Request& request);
+
+// handlers_redundancy.cpp
+Answer controlRedundancy(Slot& slot, const Request& request);
+Answer getPacketRoute(Slot& slot, const Request& request);
+Answer getPublicKey(Slot& slot, const Request& request);
+Answer getRedundancyCapability(Slot& slot, const Request& request);
+Answer setRemoteKey(Slot& slot, const Request& request);
+Answer syncDataPath(Slot& slot, const Request& request);
+bool hasRemoteKey(const Slot& slot, const Request& request); ///< whether the request's call has one
+
+// handlers_sim.cpp
+Answer authenticateSim(Slot& slot, const Request& request);
+Answer setSimPower(Slot& slot, const Request& request);
 
 } // namespace sim

@@ -1,5 +1,6 @@
 // What the modem tells about itself and the device, and the SIM lock data that it keeps.
 
+#include "contents.h"
 #include "handlers.h"
 
 #include <string_view>
@@ -23,6 +24,55 @@ constexpr uint32_t kPoolSize = 16'777'216;
 constexpr size_t kHeapNameSize = 20;
 
 } // namespace
+
+/// Online or off: in terms of AT commands, full functionality or radio off.
+Answer getOperationMode(Slot& slot, const Request&)
+{
+    Answer answer;
+    answer.fields.setNumber(256, static_cast<uint8_t>(slot.radioOn()));
+    return answer;
+}
+
+Answer setOperationMode(Slot& slot, const Request& request)
+{
+    slot.at["+CFUN"] = {request.fields.number<uint8_t>(256) == 1 ? "1" : "4"};
+    return {};
+}
+
+/// The same that the indication of its changes tells.
+Answer getMultiSimState(Slot& slot, const Request& request)
+{
+    return {ModemResult::Success, multiSimContents({request.slots, slot})};
+}
+
+/// The modem assumes what it is told.
+Answer sendDeviceState(Slot& slot, const Request& request)
+{
+    slot.settings.store(request.spec, request.fields);
+    return {ModemResult::Success, request.fields};
+}
+
+/// The band asked for in 16 bits, and the number of transmitters that serve it.
+Answer getCarkit(Slot& slot, const Request& request)
+{
+    constexpr uint8_t kUnknownRat = 255;
+    const Bytes& query = request.fields.bytes(0x8102);
+    if (toNumber<uint8_t>(query, 2) == kUnknownRat) {
+        return {ModemResult::NotSupported};
+    }
+    const auto band = toNumber<uint16_t>(query);
+    uint8_t transmitters = 1;
+    for (const Cell* cell : {slot.camped(), slot.lteCell()}) {
+        if (cell != nullptr && cell->band == band) {
+            transmitters = cell->txAntennas;
+        }
+    }
+    Bytes data = toBytes(band);
+    append(data, transmitters);
+    Answer answer;
+    answer.fields.set(0x8100, std::move(data));
+    return answer;
+}
 
 Answer getSimTrays(Slot& slot, const Request&)
 {

@@ -16,7 +16,7 @@ Answer readNv(Slot& slot, const Request& request)
 {
     const auto item = slot.nv.find(nvKey(request));
     if (item == slot.nv.end()) {
-        return {ModemResult::Failure, {}};
+        return {ModemResult::Failure};
     }
     Answer answer;
     answer.fields.set(0x8100, item->second);
@@ -25,7 +25,11 @@ Answer readNv(Slot& slot, const Request& request)
 
 Answer writeNv(Slot& slot, const Request& request)
 {
-    slot.nv[nvKey(request)] = request.fields.bytes(0x8102);
+    const NvKey key = nvKey(request);
+    if (slot.nv.size() >= kMaxNvItems && !slot.nv.contains(key)) {
+        return {ModemResult::Failure};
+    }
+    slot.nv[key] = request.fields.bytes(0x8102);
     return {};
 }
 

@@ -13,6 +13,7 @@ namespace {
 constexpr const char* kTag = "sim";
 constexpr uint16_t kAtText = 0x8100;
 constexpr uint16_t kAtCommand = 3;
+constexpr uint16_t kWriteNv = 51;
 
 /// The slot of a header's one-hot bit; nothing when it is none.
 std::optional<int> slotOf(uint8_t slotId)
@@ -39,6 +40,7 @@ void Modem::State::load(ScenarioData scenario)
 {
     mInitialSlots = scenario.slots;
     mSlots = std::move(scenario.slots);
+    mNvFile = std::move(scenario.nvFile);
     mFaults = FaultInjector(std::move(scenario.faults));
     mRandom.seed(scenario.seed);
     mTimeline = std::move(scenario.timeline);
@@ -77,8 +79,11 @@ void Modem::State::receive(ClientId client, const vorn_msg_t& request, TimePoint
     if (fault && fault->action == FaultAction::Result) {
         answer.result = static_cast<ModemResult>(fault->result);
     } else {
-        answer = carryOut(mSlots.at(static_cast<size_t>(*slot)), {*checked.spec, checked.fields},
+        answer = carryOut(mSlots.at(static_cast<size_t>(*slot)), {*checked.spec, checked.fields, mSlots},
                           due.consequences);
+        if (checked.spec->id == kWriteNv && answer.result == ModemResult::Success && !saveNv()) {
+            answer.result = ModemResult::Failure;
+        }
     }
     due.fields = std::move(answer.fields);
     due.fields.setNumber(0, static_cast<int32_t>(answer.result));
@@ -200,6 +205,16 @@ void Modem::State::forget(ClientId client)
     mReports.stop(client);
 }
 
+bool Modem::State::saveNv() const
+{
+    if (!mNvFile) {
+        return true;
+    }
+    NvOfSlots items;
+    std::ranges::transform(mSlots, items.begin(), &Slot::nv);
+    return writeNvFile(*mNvFile, items);
+}
+
 void Modem::State::disconnect(std::chrono::milliseconds downFor)
 {
     mDue.clear();
@@ -210,9 +225,12 @@ void Modem::State::disconnect(std::chrono::milliseconds downFor)
 void Modem::State::restart(std::chrono::milliseconds downFor)
 {
     for (size_t i = 0; i < mSlots.size(); ++i) {
-        auto nv = std::move(mSlots.at(i).nv);
-        mSlots.at(i) = mInitialSlots.at(i);
-        mSlots.at(i).nv = std::move(nv);
+        Slot& slot = mSlots.at(i);
+        auto nv = std::move(slot.nv);
+        const uint64_t nextSqn = slot.card.secrets.nextSqn;
+        slot = mInitialSlots.at(i);
+        slot.nv = std::move(nv);
+        slot.card.secrets.nextSqn = nextSqn;
     }
     disconnect(downFor);
 }

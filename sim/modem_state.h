@@ -6,6 +6,7 @@
 #include "scenario_data.h"
 #include "sim/modem.h"
 
+#include <filesystem>
 #include <map>
 #include <optional>
 #include <random>
@@ -42,7 +43,8 @@ private:
     void load(ScenarioData scenario);
     void disconnect(std::chrono::milliseconds downFor);
 
-    /// Drops the links; the slots are as the scenario has them again, except for their NV items.
+    /// Drops the links; the slots are as the scenario has them again, except for their NV items and what the
+    /// SIM cards remember.
     void restart(std::chrono::milliseconds downFor);
 
     /// What control() can be told to do. Each reads its arguments and adds to the answer.
@@ -58,9 +60,13 @@ private:
     void controlRestart(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
     void controlLoad(JsonNode& arguments, TimePoint now, nlohmann::json& answer);
 
+    /// Keeps the NV items in the scenario's file, if it names one; whether that went well.
+    bool saveNv() const;
+
     Output& mOutput;
     std::array<Slot, kSlots> mInitialSlots;
     std::array<Slot, kSlots> mSlots;
+    std::optional<std::filesystem::path> mNvFile;
     FaultInjector mFaults{{}};
     std::mt19937 mRandom;
     std::vector<TimedIndication> mTimeline;

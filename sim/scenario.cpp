@@ -60,6 +60,14 @@ ScenarioData readScenario(const json& scenarioJson)
         slot = slotFromJson(slots.at(static_cast<size_t>(i)), i);
         slot.simTrays = trays;
     }
+    if (const auto file = root.optionalMember("nvFile")) {
+        scenario.nvFile = file->text();
+        if (auto kept = readNvFile(*scenario.nvFile)) {
+            for (size_t i = 0; i < scenario.slots.size(); ++i) {
+                scenario.slots.at(i).nv = std::move(kept->at(i));
+            }
+        }
+    }
     for (const JsonNode& fault : root.member("faults").items(kMaxListed)) {
         scenario.faults.push_back(faultFromJson(fault));
     }
@@ -98,7 +106,11 @@ Scenario Scenario::fromFile(const std::filesystem::path& file)
         throw ScenarioError(file.string() + ": can't be read");
     }
     try {
-        return fromJson(nlohmann::json::parse(text.str()));
+        auto contents = nlohmann::json::parse(text.str());
+        if (contents.is_object() && contents.contains("nvFile") && contents["nvFile"].is_string()) {
+            contents["nvFile"] = file.parent_path() / contents["nvFile"].get<std::string>();
+        }
+        return fromJson(contents);
     } catch (const nlohmann::json::exception& error) {
         throw ScenarioError(file.string() + ": " + error.what());
     } catch (const ScenarioError& error) {

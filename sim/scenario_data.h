@@ -7,6 +7,8 @@
 
 #include <array>
 #include <chrono>
+#include <filesystem>
+#include <optional>
 #include <vector>
 
 namespace sim {
@@ -18,6 +20,7 @@ struct TimedIndication {
 
 struct ScenarioData {
     uint32_t seed = 0;
+    std::optional<std::filesystem::path> nvFile; ///< its items are in the slots
     std::array<Slot, kSlots> slots;
     std::vector<Fault> faults;
     std::vector<TimedIndication> timeline; ///< in order of time

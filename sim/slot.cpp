@@ -10,30 +10,6 @@ namespace {
 constexpr size_t kMaxNeighbours = 128;
 constexpr size_t kMaxListed = 4096;
 
-SimCard cardFromJson(JsonNode node)
-{
-    SimCard card;
-    card.present = node.member("present").flag();
-    const JsonNode imsi = node.member("imsi");
-    card.imsi = imsi.text(15);
-    if (!std::ranges::all_of(card.imsi, [](char c) { return c >= '0' && c <= '9'; })) {
-        imsi.fail("must be decimal digits");
-    }
-    node.finish();
-    return card;
-}
-
-std::map<NvKey, Bytes> nvFromJson(const JsonNode& node)
-{
-    std::map<NvKey, Bytes> items;
-    for (JsonNode item : node.items(kMaxListed)) {
-        const NvKey key{item.member("id").number<int32_t>(), item.member("index").number<int8_t>()};
-        items[key] = item.member("data").hexBytes(0, kMaxNvLength);
-        item.finish();
-    }
-    return items;
-}
-
 /// Settings of a scenario are requests that are carried out before anything else.
 void applySettings(const JsonNode& node, StoredSettings& settings)
 {
@@ -94,7 +70,7 @@ Slot slotFromJson(JsonNode node, int number)
     Slot slot;
     slot.number = number;
     slot.plmn = plmnFromJson(node.member("operator"));
-    slot.card = cardFromJson(node.member("sim"));
+    slot.card = simCardFromJson(node.member("sim"));
     if (const auto serving = node.optionalMember("serving")) {
         slot.serving = servingCellFromJson(*serving);
     }
@@ -107,7 +83,7 @@ Slot slotFromJson(JsonNode node, int number)
     for (const JsonNode& cell : node.member("neighbours").items(kMaxNeighbours)) {
         slot.neighbours.push_back(neighbourFromJson(cell));
     }
-    slot.nv = nvFromJson(node.member("nv"));
+    slot.nv = nvItemsFromJson(node.member("nv"));
     applySettings(node.member("settings"), slot.settings);
     applyAtCommands(node.member("at"), slot);
     node.finish();

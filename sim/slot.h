@@ -3,6 +3,8 @@
 
 #include "bands.h"
 #include "cell.h"
+#include "nv_items.h"
+#include "sim_card.h"
 #include "stored_settings.h"
 
 #include <array>
@@ -13,16 +15,6 @@
 #include <vector>
 
 namespace sim {
-
-constexpr int kSlots = 3;
-
-struct SimCard {
-    bool present = false;
-    std::string imsi;
-};
-
-using NvKey = std::pair<int32_t, int32_t>; ///< item and index
-constexpr size_t kMaxNvLength = 20480;
 
 /// The parameters last set by AT commands, by command name; one that was never set has the value of the
 /// command table.
@@ -36,7 +28,7 @@ struct Slot {
     std::optional<Cell> serving;
     std::optional<Cell> lteAnchor; ///< when NR is served next to LTE
     std::vector<Cell> neighbours;
-    std::map<NvKey, Bytes> nv;
+    NvItems nv;
     StoredSettings settings;
     AtValues at;
     Bands bands = supportedBands();

@@ -71,6 +71,13 @@ json bytesToJson(const Bytes& bytes, const FieldSpec& spec)
     if (spec.kind == FieldKind::String && std::ranges::all_of(bytes, [](uint8_t c) { return c < 0x80; })) {
         return std::string(bytes.begin(), std::ranges::find(bytes, 0));
     }
+    return hexDigits(bytes);
+}
+
+} // namespace
+
+std::string hexDigits(const Bytes& bytes)
+{
     constexpr std::string_view kDigits = "0123456789abcdef";
     std::string digits;
     for (const uint8_t byte : bytes) {
@@ -79,8 +86,6 @@ json bytesToJson(const Bytes& bytes, const FieldSpec& spec)
     }
     return digits;
 }
-
-} // namespace
 
 Bytes wordBlock(std::initializer_list<int64_t> words)
 {

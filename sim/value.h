@@ -54,6 +54,9 @@ inline void append(Bytes& block, const Bytes& more)
     block.insert(block.end(), more.begin(), more.end());
 }
 
+/// Two lower-case digits per byte.
+std::string hexDigits(const Bytes& bytes);
+
 /// A row of 32-bit words, negative ones in two's complement.
 Bytes wordBlock(std::initializer_list<int64_t> words);
 

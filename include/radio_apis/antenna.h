@@ -1,9 +1,18 @@
-/// Antennas and transmit power limits.
+/// Antennas, transmitters and transmit power limits.
 #pragma once
 
 #include "radio_apis/result.h"
 
 #include <cstdint>
+
+inline constexpr unsigned kRadioMaxTxCarkitBytes = 512;
+
+/// Result of radioGetTxCarkit.
+struct RadioTxCarkit {
+    uint32_t failure;                     ///< 1 when the modem reported a failure, otherwise 0
+    uint32_t length;                      ///< bytes of `data`; more are cut
+    uint8_t data[kRadioMaxTxCarkitBytes]; ///< the transmitters' numbers as the modem gives them
+};
 
 extern "C" {
 
@@ -55,5 +64,18 @@ RADIO_API int radioSetAntForceStateByRat(int rat, int state, void* userData, Rad
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radiosetTxPathFilter(signed char rat, int band, int mode, void* userData,
                                    RadioRequestCallback callback);
+
+/// The numbers of the transmitters of a band, as a car kit's booster needs them.
+///
+/// @param radioTech  radio access technology: 6 and 7 are one kind to the modem, 2 and 5 another, all others
+///                   are unknown to it
+/// @param uiBand     the band's number; its low 16 bits are sent
+/// @param subband    not sent
+/// @param option     not sent
+/// @param callback   called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.txCarkit`; on the
+///                   modem library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetTxCarkit(int radioTech, int uiBand, int subband, int option, void* userData,
+                               RadioRequestCallback callback);
 
 } // extern "C"

@@ -15,6 +15,12 @@ struct RadioFeatureState {
     uint32_t state; ///< as last set; 0 when the modem does not say
 };
 
+/// Result of radioSendDeviceStateExt.
+struct RadioDeviceStateExt {
+    uint32_t result;        ///< the modem's result code; 0: success
+    int32_t deviceStateExt; ///< the state that the modem now assumes
+};
+
 inline constexpr unsigned kRadioMaxSidoIssueValues = 20;
 
 extern "C" {
@@ -88,5 +94,21 @@ RADIO_API int radioSetDiagnoseConfig(unsigned int type, int* values, unsigned in
 /// @return 0 when handed to the modem; 11 for null values or too many of them; 1 when refused otherwise
 RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* userData,
                                       RadioRequestCallback callback);
+
+/// Tells the modem an extended state of the device.
+///
+/// @param deviceStateExt  as the modem defines it, passed through
+/// @param callback        called once with RADIO_APIS_SUCCESS, whatever the modem said, and
+///                        `rsp.deviceStateExt`; on the modem library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSendDeviceStateExt(int deviceStateExt, void* userData, RadioRequestCallback callback);
+
+/// Sets the IMB state.
+///
+/// @param state     as the modem defines it; its low 8 bits are sent
+/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
+///                  library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetImbState(int state, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -86,6 +86,15 @@ RADIO_API int radioSetPowerBoostState(int state, void* userData, RadioRequestCal
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetPowerStatistics(void* userData, RadioRequestCallback callback);
 
+/// Sets a timer of fast dormancy, the early release of an idle connection (3GPP TS 25.331).
+///
+/// @param index     which timer; -1: not sent
+/// @param timer     its time as the modem counts it; -1: not sent
+/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
+///                  library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetFastDormancyTimer(int index, int timer, void* userData, RadioRequestCallback callback);
+
 /// What the modem's memory is used for.
 ///
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.modemHeapList`;

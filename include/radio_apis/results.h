@@ -1,17 +1,22 @@
 /// The result record that every request callback is given.
 #pragma once
 
+#include "radio_apis/antenna.h"
 #include "radio_apis/atom.h"
 #include "radio_apis/bands.h"
 #include "radio_apis/cell_info.h"
 #include "radio_apis/device_state.h"
 #include "radio_apis/metrics.h"
+#include "radio_apis/multi_sim.h"
 #include "radio_apis/network_action.h"
 #include "radio_apis/nv.h"
+#include "radio_apis/operation_mode.h"
+#include "radio_apis/packet_route.h"
 #include "radio_apis/policy.h"
 #include "radio_apis/power.h"
 #include "radio_apis/qos.h"
 #include "radio_apis/rf_icc.h"
+#include "radio_apis/rtp_redundancy.h"
 #include "radio_apis/sar.h"
 #include "radio_apis/scene.h"
 #include "radio_apis/service_mode.h"
@@ -50,5 +55,17 @@ struct RadioApisResultType {
         RadioBandTxNum bandTxNumInfo;
         RadioNvItem nvItemData;
         RadioModemVerdict nvWrite;
+        RadioOperationMode operationMode;
+        RadioMsimSubModeState msimSubModeState;
+        RadioDeviceStateExt deviceStateExt;
+        RadioModemVerdict cellBarring;
+        RadioTxCarkit txCarkit;
+        RadioUimAuthentication uimAuthentication;
+        RadioImsRtpRedunCapability imsRtpRedunCapability;
+        RadioImsRtpRedunPublicKey imsRtpRedunPublicKey;
+        RadioImsRtpRedunRemotePublicKey imsRtpRedunRemotePublicKey;
+        RadioImsRtpRedunControl imsRtpRedunControl;
+        RadioImsRtpRedunDataPath imsRtpRedunDataPath;
+        RadioPacketRoute packetRoute;
     } rsp;
 };

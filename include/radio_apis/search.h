@@ -1,4 +1,4 @@
-/// How the modem searches for networks (3GPP TS 23.122).
+/// How the modem searches for networks, and which it leaves alone (3GPP TS 23.122).
 #pragma once
 
 #include "radio_apis/result.h"
@@ -12,6 +12,34 @@ struct RadioHplmnBgSearchInfoType {
     int32_t repeatInterval; ///< time between two searches as the modem counts it; the low 16 bits are sent
 };
 
+/// A PLMN that the modem avoids.
+struct RadioPlmnBlockInfo {
+    int32_t type;           ///< kind of block; its low 8 bits are sent
+    int32_t rat;            ///< 0 is sent as 4 and 1 as 128, of others the low 8 bits
+    int32_t reserved;       ///< not sent
+    int32_t mcc;            ///< mobile country code, 0 to 999; sent without leading zeros
+    int32_t mnc;            ///< mobile network code, 0 to 999
+    uint8_t mncThreeDigits; ///< not 0: the MNC has three digits, otherwise two
+};
+
+/// What the modem does while it is out of service: values as it defines them.
+struct RadioOosCfgInfo {
+    int32_t enable; ///< not sent by option 100
+    int32_t option; ///< what is configured; 100: the sniffer that watches for a network's return
+    int32_t p1;     ///< p1 to p6 are not sent by option 100
+    int32_t p2;
+    int32_t p3;
+    int32_t p4;
+    int32_t p5;
+    int32_t p6;
+    int32_t p7; ///< the low 8 bits of p7 to p11 are sent
+    int32_t p8;
+    int32_t p9;
+    int32_t p10;
+    int32_t p11;
+};
+static_assert(sizeof(RadioOosCfgInfo) == 52);
+
 extern "C" {
 
 /// Sets how often the modem searches for the home PLMN.
@@ -21,5 +49,47 @@ extern "C" {
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioHplmnBgSearch(const RadioHplmnBgSearchInfoType& info, void* userData,
                                  RadioRequestCallback callback);
+
+/// Lets the modem use a PLMN again that it avoids.
+///
+/// @param info      the PLMN and the kind of its block. Of its text, MCC and MNC, six characters are sent
+/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
+///                  library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioPerformPlmnUnblock(RadioPlmnBlockInfo info, void* userData, RadioRequestCallback callback);
+
+/// Takes a tracking area from the list of forbidden ones (3GPP TS 24.301, TS 24.501).
+///
+/// @param option          not sent
+/// @param mcc             mobile country code, 0 to 999; sent without leading zeros
+/// @param mnc             mobile network code, 0 to 999
+/// @param mncThreeDigits  whether the MNC has three digits, otherwise two
+/// @param code            the tracking area code; its low 16 bits are sent
+/// @param type            kind of list as the modem defines it; its low 8 bits are sent
+/// @param callback        called once with the modem's verdict and, on success, an empty record; on the modem
+///                        library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioClearForbiddenTai(int option, int mcc, int mnc, bool mncThreeDigits, int code, int type,
+                                     void* userData, RadioRequestCallback callback);
+
+/// Sets when the modem bars a cell that fails it (3GPP TS 36.304, TS 38.304).
+///
+/// @param threshold    failures until then; the low 8 bits are sent
+/// @param watchPeriod  in which they are counted, as the modem counts time; the low 16 bits are sent
+/// @param barringTime  how long the cell is barred, as the modem counts time
+/// @param callback     called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.cellBarring`,
+///                     whose `failure` tells of the modem's failure; on the modem library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioConfigCellBarringParam(unsigned int threshold, unsigned int watchPeriod,
+                                          unsigned int barringTime, void* userData,
+                                          RadioRequestCallback callback);
+
+/// Configures what the modem does while it is out of service.
+///
+/// @param info      option 100 and the sniffer's values; other options are not supported yet
+/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
+///                  library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused, which every option but 100 is
+RADIO_API int radioSetOosCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

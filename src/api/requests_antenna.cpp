@@ -38,3 +38,10 @@ int radiosetTxPathFilter(signed char rat, int band, int mode, void* userData, Ra
 {
     return forward(__func__, &VornVsClient::setTxPathFilter, rat, band, mode, userData, callback);
 }
+
+int radioGetTxCarkit(int radioTech, int uiBand, int subband, int option, void* userData,
+                     RadioRequestCallback callback)
+{
+    return forward(__func__, &VornRadioClient::getTxCarkit, radioTech, uiBand, subband, option, userData,
+                   callback);
+}

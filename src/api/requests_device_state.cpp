@@ -49,3 +49,13 @@ int radioSetSidoIssueConfig(int* values, unsigned int count, void* userData, Rad
     logInstance(__func__);
     return forward(__func__, &VornVsClient::setSidoIssueConfig, values, count, userData, callback);
 }
+
+int radioSendDeviceStateExt(int deviceStateExt, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornRadioClient::sendDeviceStateExt, deviceStateExt, userData, callback);
+}
+
+int radioSetImbState(int state, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornRadioClient::setImbState, state, userData, callback);
+}

@@ -29,3 +29,8 @@ int radioGetModemHeapList(void* userData, RadioRequestCallback callback)
 {
     return forward(__func__, &VornVsClient::getModemHeapList, userData, callback);
 }
+
+int radioSetFastDormancyTimer(int index, int timer, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornRadioClient::setFastDormancyTimer, index, timer, userData, callback);
+}

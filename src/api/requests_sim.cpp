@@ -41,3 +41,21 @@ int radioGetRegionLockStatus(const unsigned char* data, unsigned int length, voi
 {
     return forward(__func__, &VornVsClient::getRlkStatus, data, length, userData, callback);
 }
+
+int radioRequestIccSimAuthentication(const RadioUimAuthenticateReqInfo& info, void* userData,
+                                     RadioRequestCallback callback)
+{
+    return forward(__func__, &VornRadioClient::requestIccSimAuthentication, info, userData, callback);
+}
+
+int radioSetUimPowerUp(void* userData, RadioRequestCallback callback)
+{
+    logInstance(__func__);
+    return forward(__func__, &VornRadioClient::setUimPowerUp, userData, callback);
+}
+
+int radioSetUimPowerDown(void* userData, RadioRequestCallback callback)
+{
+    logInstance(__func__);
+    return forward(__func__, &VornRadioClient::setUimPowerDown, userData, callback);
+}

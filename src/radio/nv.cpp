@@ -1,9 +1,7 @@
 /// Non-volatile items.
 #include "radio/radio_request.h"
 
-#include <algorithm>
-
-using radio::kTag;
+using namespace radio;
 
 int VornRadioClient::readNv(int id, signed char index, void* userData, RadioRequestCallback cb)
 {
@@ -13,11 +11,9 @@ int VornRadioClient::readNv(int id, signed char index, void* userData, RadioRequ
     request->addVornTlvInt32(257, index);
     return query(request, userData, cb, [](const VornView& in, RadioApisResultType& out) {
         auto& item = out.rsp.nvItemData;
-        item.failure = in.getResult() != 0;
-        const auto data = in.bytes(0x8100);
-        item.dataLen = static_cast<uint16_t>(std::min<size_t>(data.size(), kRadioMaxNvBytes));
+        item.failure = failureOf(in);
+        item.dataLen = static_cast<uint16_t>(fill(item.data, in.bytes(0x8100)));
         zorLogD(kTag, "nvItemData.dataLen=%d", item.dataLen);
-        copyBytes(data, 0, item.data);
     });
 }
 
@@ -34,6 +30,6 @@ int VornRadioClient::writeNv(int id, signed char index, const unsigned char* dat
     request->addVornTlvUint32(257, static_cast<uint32_t>(int32_t{index}));
     request->addVornTlv(0x8102, static_cast<uint16_t>(dataLen), data);
     return query(request, userData, cb, [](const VornView& in, RadioApisResultType& out) {
-        out.rsp.nvWrite.failure = in.getResult() != 0;
+        out.rsp.nvWrite.failure = failureOf(in);
     });
 }

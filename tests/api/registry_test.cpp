@@ -42,6 +42,9 @@ TEST_F(Registry, RefusesRequestsWithoutInitialisation)
         {"radioGetAllCellularCellInfo",
          [&] { return radioGetAllCellularCellInfo(&caller, Caller::onResult); }},
         {"radioGetServiceMode", [&] { return radioGetServiceMode(&caller, Caller::onResult); }},
+        {"radioSetUimPowerUp", [&] { return radioSetUimPowerUp(&caller, Caller::onResult); }},
+        {"radioSetUimPowerDown", [&] { return radioSetUimPowerDown(&caller, Caller::onResult); }},
+        {"radioSetOosCfg", [&] { return radioSetOosCfg({.option = 100}, &caller, Caller::onResult); }},
         {"radioReadNv", [&] { return radioReadNv(1, 0, &caller, Caller::onResult); }},
         {"radioWriteNv", [&] { return radioWriteNv(1, 0, nullptr, 0, &caller, Caller::onResult); }},
         {"radioRegisterVsEvent", [&] { return radioRegisterVsEvent({}, &caller, Caller::onResult); }},
@@ -55,6 +58,9 @@ TEST_F(Registry, RefusesRequestsWithoutInitialisation)
     }
     EXPECT_TRUE(
         log.has("D VornApis: radioGetServingCellularCellInfo : radioGetServingCellularCellInfo tlssubid 0"));
+    EXPECT_TRUE(log.has("D VornApis: radioSetUimPowerUp : radioSetUimPowerUp tlssubid 0"));
+    EXPECT_TRUE(log.has("D VornApis: radioSetUimPowerDown : radioSetUimPowerDown tlssubid 0"));
+    EXPECT_TRUE(log.has("E VornApis: radioSetOosCfg : radioSetOosCfg tlssubid 0"));
     EXPECT_EQ(radioApisReleaseService(kModem), 0);
     EXPECT_EQ(radioApisDeinit(), 0);
     EXPECT_EQ(caller.calls, 0);

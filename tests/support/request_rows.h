@@ -125,7 +125,7 @@ void checkHostileAnswers(const RequestRow<Client>& row)
     Client client(false, 0);
     auto caller = std::make_unique<Caller>();
     const auto huge = std::vector<Bytes>(300, Bytes(100, 0xFF));
-    constexpr uint16_t kTags[] = {256, 257, 258, 259, 260, 0x8100, 0x8102};
+    constexpr uint16_t kTags[] = {256, 257, 258, 259, 260, 262, 0x8100, 0x8102};
     for (const uint16_t tag : kTags) {
         const Fields hostile[] = {
             {},

@@ -76,6 +76,14 @@ std::vector<uint8_t> parseBytes(std::string_view where, const std::string& word,
     return *bytes;
 }
 
+Argument flag(const std::string& name, std::string help)
+{
+    const auto parse = [=](std::span<const std::string> words) -> std::any {
+        return parseNumber<int>(name, words.front(), 0, 1) != 0;
+    };
+    return {name, std::move(help), rangeText(0, 1), parse};
+}
+
 Argument bytes(const std::string& name, std::string help, size_t least, size_t most)
 {
     const auto parse = [=](std::span<const std::string> words) -> std::any {

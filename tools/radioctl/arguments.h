@@ -85,6 +85,9 @@ Argument number(const std::string& name, std::string help, T lowest = std::numer
     return {name, std::move(help), rangeText(lowest, highest), parse};
 }
 
+/// A bool: 0 or 1.
+Argument flag(const std::string& name, std::string help);
+
 /// A std::vector<uint8_t>: hexadecimal digits, or @FILE.
 Argument bytes(const std::string& name, std::string help, size_t least, size_t most);
 

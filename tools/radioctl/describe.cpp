@@ -2,8 +2,6 @@
 
 namespace radioctl {
 
-namespace {
-
 /// Values are words, but for those that begin like a list or a record.
 Json valueFromWord(const std::string& where, const std::string& word)
 {
@@ -16,8 +14,6 @@ Json valueFromWord(const std::string& where, const std::string& word)
     }
     return value;
 }
-
-} // namespace
 
 /// Numbers may be written as texts too, for hexadecimal ones.
 std::string wordOf(const Json& value)

@@ -57,6 +57,7 @@ void checkList(const std::string& where, const Json& value, size_t most);
 void checkKeys(const std::string& where, const Json& value, const std::vector<const char*>& known);
 std::string textOf(std::string_view bytes);
 std::string memberText(size_t indent, const char* name, const std::string& form, const char* help);
+Json valueFromWord(const std::string& where, const std::string& word);
 Json recordFromWords(const std::string& name, std::span<const std::string> words);
 
 /// The first `count` elements of an array: characters are a text, bytes hexadecimal digits, others a list.
@@ -267,6 +268,23 @@ Argument record(const std::string& name, std::string help)
         return value;
     };
     return {name, std::move(help), "MEMBER=VALUE... or one JSON object", parse, true, membersText<T>(4)};
+}
+
+/// A std::vector of records: one JSON list.
+template <typename T>
+Argument recordList(const std::string& name, std::string help, size_t most)
+{
+    const auto parse = [=](std::span<const std::string> words) -> std::any {
+        const Json list = valueFromWord(name, words.front());
+        checkList(name, list, most);
+        std::vector<T> values(list.size());
+        for (size_t i = 0; i < values.size(); ++i) {
+            fromJson(fmt::format("{}[{}]", name, i), list[i], values[i]);
+        }
+        return values;
+    };
+    return {name,  std::move(help), fmt::format("JSON list of at most {} records", most),
+            parse, false,           membersText<T>(4)};
 }
 
 /// How a request shows the member of the result record that it fills.

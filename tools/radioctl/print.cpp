@@ -51,8 +51,10 @@ std::string table(const Json& rows)
 
 std::string asTable(Json record)
 {
-    if (record.value("failure", 1) == 0) {
-        record.erase("failure"); // no news
+    for (const char* verdict : {"failure", "result"}) {
+        if (record.value(verdict, 1U) == 0) {
+            record.erase(verdict); // no news
+        }
     }
     size_t width = 0;
     for (const auto& [name, value] : record.items()) {

@@ -46,8 +46,8 @@ const std::vector<Request>& requests()
         std::vector<Request> rows;
         for (auto part :
              {cellRequests, deviceRequests, antennaRequests, powerRequests, sceneRequests, simRequests,
-              serviceRequests, networkRequests, coexistenceRequests, indicationRequests, metricsRequests,
-              atomRequests, nvRequests, bandRequests, rfRequests}) {
+              serviceRequests, redundancyRequests, networkRequests, coexistenceRequests, indicationRequests,
+              metricsRequests, atomRequests, nvRequests, bandRequests, rfRequests}) {
             std::ranges::move(part(), std::back_inserter(rows));
         }
         return rows;

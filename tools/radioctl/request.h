@@ -52,6 +52,7 @@ std::vector<Request> powerRequests();
 std::vector<Request> sceneRequests();
 std::vector<Request> simRequests();
 std::vector<Request> serviceRequests();
+std::vector<Request> redundancyRequests();
 std::vector<Request> networkRequests();
 std::vector<Request> coexistenceRequests();
 std::vector<Request> indicationRequests();

@@ -6,6 +6,11 @@ namespace radioctl {
 template <>
 inline constexpr auto kMembers<RadioSarDsiState> = std::tuple{member("state", &RadioSarDsiState::state)};
 
+template <>
+inline constexpr auto kMembers<RadioTxCarkit> =
+    std::tuple{member("failure", &RadioTxCarkit::failure), member("length", &RadioTxCarkit::length),
+               countedMember("data", &RadioTxCarkit::data, "length", &RadioTxCarkit::length)};
+
 std::vector<Request> antennaRequests()
 {
     const std::string group = "SAR and antennas";
@@ -78,6 +83,14 @@ std::vector<Request> antennaRequests()
           number<int>("mode", "the mode")},
          call(radiosetTxPathFilter),
          nullptr},
+        {"radioGetTxCarkit",
+         group,
+         "The numbers of a band's transmitters, for a car kit",
+         {number<int>("radioTech", "the radio access technology; 6 and 7, 2 and 5 are known to the modem"),
+          number<int>("uiBand", "the band; the low 16 bits are sent"), number<int>("subband", "not sent"),
+          number<int>("option", "not sent")},
+         call(radioGetTxCarkit),
+         show(&Rsp::txCarkit)},
     };
 }
 

@@ -25,6 +25,12 @@ template <>
 inline constexpr auto kMembers<RfIccDeviceErr> = std::tuple{
     member("type", &RfIccDeviceErr::type, "kind of error"), member("data", &RfIccDeviceErr::data, "details")};
 
+template <>
+inline constexpr auto kMembers<RadioIdcOffsetConfig> =
+    std::tuple{member("f0", &RadioIdcOffsetConfig::f0, "the low 8 bits are sent"),
+               member("f1", &RadioIdcOffsetConfig::f1), member("f2", &RadioIdcOffsetConfig::f2),
+               member("f3", &RadioIdcOffsetConfig::f3, "the low 16 bits are sent")};
+
 std::vector<Request> coexistenceRequests()
 {
     const std::string group = "Coexistence with other radios";
@@ -54,6 +60,14 @@ std::vector<Request> coexistenceRequests()
          "Tell the modem an error of another radio",
          {record<RfIccDeviceErr>("error", "the error")},
          call(radioSendRfIccDeviceErr),
+         nullptr},
+        {"radioSetIdcOffset",
+         group,
+         "Set the offsets that keep the modem off disturbed frequencies",
+         {number<int>("rat", "the radio access technology, 4 or 7"),
+          number<int>("offset", "the common offset; the low 16 bits are sent"),
+          recordList<RadioIdcOffsetConfig>("configs", "the table", kRadioMaxIdcOffsets)},
+         call(radioSetIdcOffset),
          nullptr},
     };
 }

@@ -10,6 +10,17 @@ inline constexpr auto kMembers<RadioServiceMode> =
 template <>
 inline constexpr auto kMembers<RadioFeatureState> = std::tuple{member("state", &RadioFeatureState::state)};
 
+template <>
+inline constexpr auto kMembers<RadioDeviceStateExt> =
+    std::tuple{member("result", &RadioDeviceStateExt::result),
+               member("deviceStateExt", &RadioDeviceStateExt::deviceStateExt)};
+
+template <>
+inline constexpr auto kMembers<RadioMsimSubModeState> =
+    std::tuple{member("failure", &RadioMsimSubModeState::failure),
+               member("subMode", &RadioMsimSubModeState::subMode),
+               member("state", &RadioMsimSubModeState::state)};
+
 std::vector<Request> deviceRequests()
 {
     const std::string group = "Device and modes";
@@ -71,6 +82,32 @@ std::vector<Request> deviceRequests()
          {},
          call(radioGetServiceMode),
          show(&Rsp::serviceModeInfo)},
+        {"radioSendDeviceStateExt",
+         group,
+         "Tell the modem an extended state of the device",
+         {number<int>("deviceStateExt", "as the modem defines it")},
+         call(radioSendDeviceStateExt),
+         show(&Rsp::deviceStateExt)},
+        {"radioSetImbState",
+         group,
+         "Set the IMB state",
+         {number<int>("state", "as the modem defines it; the low 8 bits are sent")},
+         call(radioSetImbState),
+         nullptr},
+        {"radioGetMsimSubModeState",
+         group,
+         "How the modem serves several SIM cards",
+         {},
+         call(radioGetMsimSubModeState),
+         show(&Rsp::msimSubModeState)},
+        {"radioSetDsdaPreferCustThresh",
+         group,
+         "Set from which level on both SIM cards are served at the same time",
+         {number<int>("rat", "the radio access technology, 4 or 7"),
+          number<int>("thresh1", "the first threshold; sent multiplied by 4 with rat 4"),
+          number<int>("thresh2", "the second threshold, likewise")},
+         call(radioSetDsdaPreferCustThresh),
+         nullptr},
     };
 }
 

@@ -12,6 +12,33 @@ inline constexpr auto kMembers<RadioHplmnBgSearchInfoType> = std::tuple{
 };
 
 template <>
+inline constexpr auto kMembers<RadioPlmnBlockInfo> = std::tuple{
+    member("type", &RadioPlmnBlockInfo::type, "kind of block; the low 8 bits are sent"),
+    member("rat", &RadioPlmnBlockInfo::rat, "0 is sent as 4 and 1 as 128, of others the low 8 bits"),
+    member("reserved", &RadioPlmnBlockInfo::reserved, "not sent"),
+    member("mcc", &RadioPlmnBlockInfo::mcc, "mobile country code"),
+    member("mnc", &RadioPlmnBlockInfo::mnc, "mobile network code"),
+    member("mncThreeDigits", &RadioPlmnBlockInfo::mncThreeDigits, "0: the MNC has two digits"),
+};
+
+template <>
+inline constexpr auto kMembers<RadioOosCfgInfo> = std::tuple{
+    member("enable", &RadioOosCfgInfo::enable, "not sent by option 100"),
+    member("option", &RadioOosCfgInfo::option, "100: the sniffer that watches for a network's return"),
+    member("p1", &RadioOosCfgInfo::p1, "p1 to p6 are not sent by option 100"),
+    member("p2", &RadioOosCfgInfo::p2),
+    member("p3", &RadioOosCfgInfo::p3),
+    member("p4", &RadioOosCfgInfo::p4),
+    member("p5", &RadioOosCfgInfo::p5),
+    member("p6", &RadioOosCfgInfo::p6),
+    member("p7", &RadioOosCfgInfo::p7, "the low 8 bits of p7 to p11 are sent"),
+    member("p8", &RadioOosCfgInfo::p8),
+    member("p9", &RadioOosCfgInfo::p9),
+    member("p10", &RadioOosCfgInfo::p10),
+    member("p11", &RadioOosCfgInfo::p11),
+};
+
+template <>
 inline constexpr auto kMembers<RadioActionParameter> =
     std::tuple{member("values", &RadioActionParameter::values)};
 
@@ -90,6 +117,36 @@ std::vector<Request> networkRequests()
          "Set how often the modem searches for the home PLMN",
          {record<RadioHplmnBgSearchInfoType>("info", "the background search")},
          call(radioHplmnBgSearch),
+         nullptr},
+        {"radioPerformPlmnUnblock",
+         group,
+         "Let the modem use a PLMN again that it avoids",
+         {record<RadioPlmnBlockInfo>("info", "the PLMN and the kind of its block")},
+         call(radioPerformPlmnUnblock),
+         nullptr},
+        {"radioClearForbiddenTai",
+         group,
+         "Take a tracking area from the list of forbidden ones",
+         {number<int>("option", "not sent"), number<int>("mcc", "mobile country code"),
+          number<int>("mnc", "mobile network code"),
+          flag("mncThreeDigits", "whether the MNC has three digits"),
+          number<int>("code", "the tracking area code; the low 16 bits are sent"),
+          number<int>("type", "kind of list; the low 8 bits are sent")},
+         call(radioClearForbiddenTai),
+         nullptr},
+        {"radioConfigCellBarringParam",
+         group,
+         "Set when the modem bars a cell that fails it",
+         {number<unsigned>("threshold", "failures until then; the low 8 bits are sent"),
+          number<unsigned>("watchPeriod", "in which they are counted; the low 16 bits are sent"),
+          number<unsigned>("barringTime", "how long the cell is barred")},
+         call(radioConfigCellBarringParam),
+         show(&Rsp::cellBarring)},
+        {"radioSetOosCfg",
+         group,
+         "Configure what the modem does while it is out of service; option 100 only",
+         {record<RadioOosCfgInfo>("info", "the values, as the modem defines them")},
+         call(radioSetOosCfg),
          nullptr},
         {"radioSendNetworkAction",
          group,

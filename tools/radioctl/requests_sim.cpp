@@ -7,9 +7,19 @@ template <>
 inline constexpr auto kMembers<RadioSimTrayStatus> =
     std::tuple{countedMember("status", &RadioSimTrayStatus::status, "count", &RadioSimTrayStatus::count)};
 
+template <>
+inline constexpr auto kMembers<RadioUimAuthenticateReqInfo> =
+    std::tuple{countedMember("data", &RadioUimAuthenticateReqInfo::authData, "length",
+                             &RadioUimAuthenticateReqInfo::authDataLen, "each value behind its length")};
+
+template <>
+inline constexpr auto kMembers<RadioUimAuthentication> = std::tuple{
+    member("failure", &RadioUimAuthentication::failure), member("length", &RadioUimAuthentication::length),
+    countedMember("content", &RadioUimAuthentication::content, "length", &RadioUimAuthentication::length)};
+
 std::vector<Request> simRequests()
 {
-    const std::string group = "SIM trays and locks";
+    const std::string group = "SIM trays, cards and locks";
     const auto lockData = [](size_t most) { return bytes("data", "the lock server's bytes", 1, most); };
     return {
         {"radioGetSimTrayStatus",
@@ -18,6 +28,14 @@ std::vector<Request> simRequests()
          {},
          call(radioGetSimTrayStatus),
          show(&Rsp::simTrayStatus)},
+        {"radioRequestIccSimAuthentication",
+         group,
+         "Have the SIM card answer a challenge of the network",
+         {record<RadioUimAuthenticateReqInfo>("info", "the challenge")},
+         call(radioRequestIccSimAuthentication),
+         show(&Rsp::uimAuthentication)},
+        {"radioSetUimPowerUp", group, "Power the SIM card up", {}, call(radioSetUimPowerUp), nullptr},
+        {"radioSetUimPowerDown", group, "Power the SIM card down", {}, call(radioSetUimPowerDown), nullptr},
         {"radioSetCarrierLockBlob",
          group,
          "Install a carrier lock",

@@ -55,7 +55,7 @@ void prepareWorkstation(const std::string& device)
 bool Outcome::succeeded() const
 {
     return kind == Kind::Answered && result == RADIO_APIS_SUCCESS &&
-           !(record.is_object() && record.value("failure", 0) != 0);
+           !(record.is_object() && (record.value("failure", 0U) != 0 || record.value("result", 0U) != 0));
 }
 
 Session::Session(const SessionOptions& options) : mTimeout(options.timeout)

@@ -3,6 +3,15 @@
 /// sim/default_scenario.json is the built-in one and shows every member; a file names only what it wants
 /// different. Objects are laid over the built-in ones member by member, the entries of "slots" one by one;
 /// any other list replaces the built-in one, and null removes it. A "comment" may stand in every object.
+///   "sim"       the slot's card: {"present": FLAG, "imsi": DIGITS, "authentication": {"k": HEX, "op" or
+///   "opc":
+///               HEX, "sqn": HEX, "amf": HEX}} with the values of MILENAGE (3GPP TS 35.206); sqn is the
+///               lowest sequence number that the card still accepts. The built-in cards are test set 1 of
+///               TS 35.208.
+///   "nv"        [{"id": ITEM, "index": INDEX, "data": HEX}]: the non-volatile items of the slot
+///   "nvFile"    a file for the items of all slots, from the scenario's folder on. Where there is one its
+///   items
+///               take the place of the scenario's; every write of an item replaces it.
 ///   "settings"  [{"message": REQUEST, "fields": {NAME: VALUE...}}]: what setters left behind; no indication
 ///               comes of them
 ///   "at"        AT commands carried out beforehand

@@ -1,0 +1,33 @@
+/// In-device coexistence (3GPP TS 36.300): the modem next to radios that disturb it.
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+#include <vector>
+
+inline constexpr unsigned kRadioMaxIdcOffsets = 20;
+
+/// One entry of the offset table, as the modem defines it.
+struct RadioIdcOffsetConfig {
+    int32_t f0; ///< its low 8 bits are sent
+    int32_t f1; ///< sent as it is
+    int32_t f2; ///< sent as it is
+    int32_t f3; ///< its low 16 bits are sent
+};
+static_assert(sizeof(RadioIdcOffsetConfig) == 16);
+
+extern "C" {
+
+/// Sets the offsets that keep the modem off disturbed frequencies.
+///
+/// @param rat       radio access technology as the modem numbers it, 4 or 7
+/// @param offset    the common offset; its low 16 bits are sent
+/// @param configs   the table; the first 20 entries are sent, further ones are not
+/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
+///                  library's delivery thread
+/// @return 0 when handed to the modem; 2 for another rat; 1 when refused otherwise
+RADIO_API int radioSetIdcOffset(int rat, int offset, const std::vector<RadioIdcOffsetConfig>& configs,
+                                void* userData, RadioRequestCallback callback);
+
+} // extern "C"

@@ -1,0 +1,35 @@
+/// Several SIM cards in use at once.
+#pragma once
+
+#include "radio_apis/result.h"
+
+#include <cstdint>
+
+/// Result of radioGetMsimSubModeState.
+struct RadioMsimSubModeState {
+    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
+    uint32_t subMode; ///< as the modem numbers it, 0 to 255
+    uint32_t state;   ///< its state as the modem numbers it, 0 to 255
+};
+
+extern "C" {
+
+/// How the modem serves several SIM cards at the moment.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.msimSubModeState`;
+///                  on the modem library's delivery thread
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback callback);
+
+/// Sets from which level on the modem prefers to serve both SIM cards at the same time (DSDA).
+///
+/// @param rat       radio access technology as the modem numbers it, 4 or 7
+/// @param thresh1   the first threshold; with rat 4 it is sent multiplied by 4. 16 bits are sent
+/// @param thresh2   the second threshold, likewise
+/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
+///                  library's delivery thread
+/// @return 0 when handed to the modem; 2 for another rat; 1 when refused otherwise
+RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData,
+                                           RadioRequestCallback callback);
+
+} // extern "C"

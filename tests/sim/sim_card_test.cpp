@@ -1,0 +1,137 @@
+// SIM cards that authenticate, and their power.
+#include "milenage.h"
+#include "modem_fixture.h"
+
+namespace sim::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::Pair;
+
+Bytes fromHex(const std::string& digits)
+{
+    const nlohmann::json json = digits;
+    return JsonNode(json, "").hexBytes(0, digits.size());
+}
+
+template <size_t size>
+ByteArray<size> array(const std::string& digits)
+{
+    ByteArray<size> bytes{};
+    std::ranges::copy(fromHex(digits), bytes.begin());
+    return bytes;
+}
+
+/// Test sets of 3GPP TS 35.208.
+TEST(Milenage, GivesThePublishedValues)
+{
+    const struct {
+        std::string k, rand, sqn, amf, op, opc, f1, f1Star, f2, f5, f3, f4, f5Star;
+    } sets[] = {
+        {"465b5ce8b199b49faa5f0a2ee238a6bc", "23553cbe9637a89d218ae64dae47bf35", "ff9bb4d0b607", "b9b9",
+         "cdc202d5123e20f62b6d676ac72cb318", "cd63cb71954a9f4e48a5994e37a02baf", "4a9ffac354dfafb3",
+         "01cfaf9ec4e871e9", "a54211d5e3ba50bf", "aa689c648370", "b40ba9a3c58b2a05bbf0d987b21bf8cb",
+         "f769bcd751044604127672711c6d3441", "451e8beca43b"},
+        {"0396eb317b6d1c36f19c1c84cd6ffd16", "c00d603103dcee52c4478119494202e8", "fd8eef40df7d", "af17",
+         "ff53bade17df5d4e793073ce9d7579fa", "53c15671c60a4b731c55b4a441c0bde2", "5df5b31807e258b0",
+         "a8c016e51ef4a343", "d3a628ed988620f0", "c47783995f72", "58c433ff7a7082acd424220f2b67c556",
+         "21a8c1f929702adb3e738488b9f5c5da", "30f1197061c1"},
+        {"fec86ba6eb707ed08905757b1bb44b8f", "9f7c8d021accf4db213ccff0c7f71a6a", "9d0277595ffc", "725c",
+         "dbc59adcb6f9a0ef735477b7fadf8374", "1006020f0a478bf6b699f15c062e42b3", "9cabc3e99baf7281",
+         "95814ba2b3044324", "8011c48c0c214ed2", "33484dc2136b", "5dbdbb2954e8f3cde665b046179a5098",
+         "59a92d3b476a0443487055cf88b2307b", "deacdd848cc6"},
+    };
+    for (const auto& set : sets) {
+        SCOPED_TRACE(set.k);
+        const auto k = array<16>(set.k);
+        const auto opc = Milenage::opcOf(k, array<16>(set.op));
+        EXPECT_EQ(opc, array<16>(set.opc));
+        const Milenage functions(k, opc, array<16>(set.rand));
+        const auto sqn = array<6>(set.sqn);
+        const auto amf = array<2>(set.amf);
+        EXPECT_EQ(functions.networkMac(sqn, amf), array<8>(set.f1));
+        EXPECT_EQ(functions.resyncMac(sqn, amf), array<8>(set.f1Star));
+        EXPECT_EQ(functions.response(), array<8>(set.f2));
+        EXPECT_EQ(functions.cipherKey(), array<16>(set.f3));
+        EXPECT_EQ(functions.integrityKey(), array<16>(set.f4));
+        EXPECT_EQ(functions.anonymityKey(), array<6>(set.f5));
+        EXPECT_EQ(functions.resyncAnonymityKey(), array<6>(set.f5Star));
+    }
+}
+
+class SimCards : public ModemTest {
+protected:
+    const std::string mRand = "1023553cbe9637a89d218ae64dae47bf35";
+    const std::string mAutn = "1055f328b43577b9b94a9ffac354dfafb3";
+    const std::string mKeys = "10b40ba9a3c58b2a05bbf0d987b21bf8cb10f769bcd751044604127672711c6d3441";
+
+    /// What the card says; nothing when it fails.
+    Bytes challenge(const std::string& digits, size_t missing = 0, uint8_t slotBit = 1)
+    {
+        const Bytes data = fromHex(digits);
+        const Value length = toBytes(static_cast<uint16_t>(data.size() + missing));
+        auto answer =
+            ask(1333, {{257, u8(1)}, {256, u8(0)}, {260, u8(4)}, {258, length}, {0x8103, data}}, slotBit);
+        if (answer[0] != i32(0)) {
+            EXPECT_THAT(answer, ElementsAre(Pair(0, i32(1))));
+            return {};
+        }
+        auto content = std::get<Bytes>(answer[0x8102]);
+        EXPECT_EQ(answer[257], Value(toBytes(static_cast<uint16_t>(content.size()))));
+        return content;
+    }
+};
+
+TEST_F(SimCards, AnswerTheirNetworkOnce)
+{
+    const std::string otherMac = "1055f328b43577b9b94a9ffac354dfafb4";
+    for (const auto& wrong : {std::string(), mRand, mRand + otherMac, mRand + mAutn + "00",
+                              "11" + mRand.substr(2) + mAutn, mRand + "00" + mAutn.substr(2)}) {
+        EXPECT_EQ(challenge(wrong), Bytes()) << wrong;
+    }
+    EXPECT_EQ(challenge(mRand + mAutn, 1), Bytes());
+    EXPECT_EQ(challenge(mRand + mAutn, 0, 4), Bytes()) << "no card";
+    EXPECT_EQ(challenge(mRand + mAutn), fromHex("db08a54211d5e3ba50bf" + mKeys));
+
+    // The sequence number was used: AUTS tells the last one, ff9bb4d0b607, concealed by 451e8beca43b.
+    const auto used = [&] {
+        const Bytes answer = challenge(mRand + mAutn);
+        return answer.size() == 16 &&
+               std::ranges::equal(fromHex("dc0eba853f3c123c"), std::span(answer).first(8));
+    };
+    EXPECT_TRUE(used());
+    control(R"({"command": "restart"})");
+    EXPECT_TRUE(used()) << "the card remembers";
+    EXPECT_EQ(challenge(mRand + mAutn, 0, 2).size(), 44U) << "slots are apart";
+}
+
+TEST_F(SimCards, MayHaveOtherSecrets)
+{
+    const auto with = [&](const std::string& members) {
+        start(R"({"slots": [{"sim": {"authentication": {)" + members + "}}}]}");
+        return challenge(mRand + mAutn).size();
+    };
+    EXPECT_EQ(with(R"("op": null, "opc": "cd63cb71954a9f4e48a5994e37a02baf")"), 44U);
+    EXPECT_EQ(with(R"("sqn": "ff9bb4d0b608")"), 16U);
+    EXPECT_EQ(with(R"("amf": "8000")"), 0U);
+    EXPECT_EQ(with(R"("k": "00000000000000000000000000000000")"), 0U);
+}
+
+TEST_F(SimCards, NeedPower)
+{
+    const auto power = [&](uint8_t on) {
+        mIndications.clear();
+        EXPECT_THAT(ask(1353, {{256, u8(1)}, {257, u8(on)}}), ElementsAre(Pair(0, i32(0))));
+        return ask(555)[258];
+    };
+    EXPECT_EQ(power(0), u8(0)) << "one of two cards";
+    ASSERT_EQ(mIndications.size(), 2U);
+    EXPECT_THAT(mIndications[0].fields, ElementsAre(Pair(257, u8(0)), Pair(258, u8(0))));
+    EXPECT_THAT(mIndications[1].fields, ElementsAre(Pair(256, u8(1))));
+    EXPECT_EQ(challenge(mRand + mAutn), Bytes());
+    EXPECT_EQ(power(1), u8(1));
+    EXPECT_EQ(challenge(mRand + mAutn).size(), 44U);
+}
+
+} // namespace
+} // namespace sim::test
