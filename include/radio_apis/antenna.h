@@ -49,8 +49,7 @@ RADIO_API int radioSetAntBlockState(int state, void* userData, RadioRequestCallb
 /// @param rat       0 to 3, sent as a message; 4 (NR), sent as an AT command; others are refused
 /// @param state     0: off, 1: on
 /// @param callback  called once with the modem's verdict; for rats 0 to 3 the record is null when that is a
-/// failure, for
-///                  rat 4 it is empty in any case where the modem answered the command
+///                  failure, for rat 4 it is empty in any case where the modem answered the command
 /// @return 0 when handed to the modem; 1 for another rat, even without an initialised instance, or when
 /// refused otherwise
 RADIO_API int radioSetAntForceStateByRat(int rat, int state, void* userData, RadioRequestCallback callback);

@@ -85,16 +85,14 @@ RADIO_API int radioGetRRCStatus(void* userData, RadioRequestCallback callback);
 /// The serving cell.
 ///
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.servingCellInfo`, whose `failure` tells of
-/// the modem's
-///                  failure
+///                  the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetServingCellularCellInfo(void* userData, RadioRequestCallback callback);
 
 /// The serving cell and its neighbours.
 ///
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.allCellInfo`, whose `serving.failure` tells
-/// of the
-///                  modem's failure
+///                  of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetAllCellularCellInfo(void* userData, RadioRequestCallback callback);
 

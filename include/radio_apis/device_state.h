@@ -37,8 +37,7 @@ RADIO_API int radioSendScreenState(int screenState, void* userData, RadioRequest
 /// @param microMotionState  the motion detector's state, passed through
 /// @param multiplier        its multiplier, passed through
 /// @param callback          called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-/// `rsp.microMotion`, whose
-///                          `failure` tells of the modem's failure
+///                          `rsp.microMotion`, whose `failure` tells of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetMicroMotionState(int microMotionState, int multiplier, void* userData,
                                        RadioRequestCallback callback);

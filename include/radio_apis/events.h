@@ -312,8 +312,8 @@ extern "C" {
 /// @param userData  handed to each call of `callback`
 /// @param callback  called once per event; it may register further listeners
 /// @return 0 when registered, also when the same event, user data and callback were registered before (the
-/// callback is
-///         then still called once per event); 1 for any other event or when the instance is not initialised
+///         callback is then still called once per event); 1 for any other event or when the instance is not
+///         initialised
 RADIO_API int registerRadioEvent(RADIO_EVENT_TYPE event, void* userData, RadioEventCallback callback);
 
 /// Switches vendor indications of the calling thread's instance on and off.

@@ -13,10 +13,9 @@ extern "C" {
 /// @param service   ignored
 /// @param instance  0, 1 or 2
 /// @return 0 when the channel is open; 1 when the modem library could not be initialised (a later call tries
-/// again) or
-///         `instance` is above 2 (nothing happens then, the thread keeps its instance); 2 when the device
-///         does not support the channel. After a failure of the channel the instance exists all the same, but
-///         its requests are refused.
+///         again) or `instance` is above 2 (nothing happens then, the thread keeps its instance); 2 when the
+///         device does not support the channel. After a failure of the channel the instance exists all the
+///         same, but its requests are refused.
 RADIO_API int radioApisInit(RADIO_APIS_SERVICE_TYPE service, RADIO_SUBS_ID_TYPE instance);
 
 /// Ends the work of the calling thread's instance: its event listeners are dropped, and the subscriptions of

@@ -21,8 +21,7 @@ extern "C" {
 /// @param id        the item's number
 /// @param index     which of its records
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.nvItemData`, whose `failure` tells of the
-/// modem's
-///                  failure
+///                  modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioReadNv(int id, signed char index, void* userData, RadioRequestCallback callback);
 

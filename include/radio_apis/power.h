@@ -81,8 +81,7 @@ RADIO_API int radioSetPowerBoostState(int state, void* userData, RadioRequestCal
 /// Has the modem take its power statistics.
 ///
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.powerStatistics`,
-/// whose
-///                  `failure` tells of the modem's failure
+///                  whose `failure` tells of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetPowerStatistics(void* userData, RadioRequestCallback callback);
 
@@ -98,8 +97,7 @@ RADIO_API int radioSetFastDormancyTimer(int index, int timer, void* userData, Ra
 /// What the modem's memory is used for.
 ///
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.modemHeapList`;
-/// with
-///                  RADIO_APIS_INVALID_PARAMETER and no record when the modem lists more than 50 heaps
+///                  with RADIO_APIS_INVALID_PARAMETER and no record when the modem lists more than 50 heaps
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetModemHeapList(void* userData, RadioRequestCallback callback);
 

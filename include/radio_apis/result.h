@@ -31,8 +31,7 @@ using RADIO_SUBS_ID_TYPE = uint32_t;
 /// @param userData  the pointer given with the request, never dereferenced by the library
 /// @param result    RADIO_APIS_SUCCESS or why the request failed
 /// @param record    the result, valid during the call only: copy what is needed later. Null when the modem
-/// answered
-///                  a request with a failure; not null, and zero except for what the answer carried,
+///                  answered a request with a failure; not null, and zero except for what the answer carried,
 ///                  otherwise
 using RadioRequestCallback = void (*)(void* userData, RADIO_APIS_RESULT result, RadioApisResultType* record);
 

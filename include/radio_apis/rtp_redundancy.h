@@ -112,8 +112,7 @@ RADIO_API int radioSetImsRtpRedunRemotePublicKey(const RadioImsRtpRedunPublicKey
 ///
 /// @param info      the call and what is to become of it
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-/// `rsp.imsRtpRedunControl`;
-///                  on the modem library's delivery thread
+///                  `rsp.imsRtpRedunControl`; on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImsRtpRedunControlInfo(const RadioImsRtpRedunControlInfoType& info, void* userData,
                                              RadioRequestCallback callback);

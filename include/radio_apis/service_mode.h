@@ -15,8 +15,8 @@ extern "C" {
 /// The UE mode of operation.
 ///
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.serviceModeInfo`, or with RADIO_APIS_FAILURE
-/// and a
-///                  zeroed record when the answer carried no mode, or with the modem's failure and no record
+///                  and a zeroed record when the answer carried no mode, or with the modem's failure and no
+///                  record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetServiceMode(void* userData, RadioRequestCallback callback);
 

@@ -108,8 +108,7 @@ RADIO_API int radioGetRegionLockStatus(const unsigned char* data, unsigned int l
 ///
 /// @param info      the challenge
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-/// `rsp.uimAuthentication`;
-///                  on the modem library's delivery thread
+///                  `rsp.uimAuthentication`; on the modem library's delivery thread
 /// @return 0 when handed to the modem; 11 for more than 256 bytes; 1 when refused otherwise
 RADIO_API int radioRequestIccSimAuthentication(const RadioUimAuthenticateReqInfo& info, void* userData,
                                                RadioRequestCallback callback);

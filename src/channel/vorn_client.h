@@ -19,8 +19,7 @@ public:
     /// Hands a request to the modem library.
     ///
     /// @param context  belongs to the request from now on: it is freed when the answer was handled - possibly
-    /// before
-    ///                 this returns - or at once when the request is refused
+    ///                 before this returns - or at once when the request is refused
     /// @return 0 when accepted, 1 when refused
     static int sendAsyncRequest(vorn_msg_t* request, std::unique_ptr<RadioApisAsyncData> context);
 
@@ -61,8 +60,7 @@ protected:
     ///
     /// @param tag   the client's log tag
     /// @param fill  a function object without state: an answer may arrive after this client is gone. It
-    /// returns nothing,
-    ///              or a result code; with a failing one there is no record
+    ///              returns nothing, or a result code; with a failing one there is no record
     template <typename Fill>
     int sendQuery(const char* tag, const mindroid::sp<VornData>& request, void* userData,
                   RadioRequestCallback cb, Fill fill);
