@@ -151,7 +151,7 @@ void writeNvStraight()
     addInt32(request, 256, kNvItem);
     addInt32(request, 257, 0);
     vorn_msg_add_tlv(request, 0x8102, static_cast<uint16_t>(data.size()), data.data());
-    send(request);
+    sendStraight(request);
 }
 
 void nvWrite20480(benchmark::State& state)
@@ -181,7 +181,7 @@ void nvRead20480(benchmark::State& state)
             vorn_msg_t* request = vorn_msg_init(53, 1);
             addInt32(request, 256, kNvItem);
             addInt32(request, 257, 0);
-            send(request);
+            sendStraight(request);
         });
 }
 BENCHMARK(nvRead20480)->Unit(benchmark::kMillisecond);
