@@ -35,6 +35,14 @@ struct AtTest : testing::Test {
     {
         return modem.sent.empty() ? "" : vorn_msg_get_val_str(modem.sent[0].message.get(), 0x8100);
     }
+
+    /// Accepts whatever is on its way.
+    void answerAll()
+    {
+        while (!modem.sent.empty()) {
+            modem.answer(answer("OK"));
+        }
+    }
 };
 
 } // namespace test

@@ -35,13 +35,14 @@ TEST_F(Bands, AreSetWithTheModemsText)
         EXPECT_EQ(refused, row.command == nullptr ? 1 : 0);
         EXPECT_EQ(command(), row.command == nullptr ? "" : row.command);
         EXPECT_EQ(log.has("E VornAtClient: setBandPrefer : unsupported setBandPrefer rat: 2"), row.rat == 2);
-        modem.sent.clear();
+        answerAll();
     }
     EXPECT_EQ(client->setBandPrefer(0, nullptr, 4, &caller, Caller::onResult), 1);
     // Cut at the room that the command has.
     const Bytes many(400, 0xFF);
     EXPECT_EQ(client->setBandPrefer(5, many.data(), 400, &caller, Caller::onResult), 0);
     EXPECT_EQ(command(), "AT+EPBSEH=,,,\"" + std::string(400 + 127 - 14, 'F'));
+    answerAll();
 }
 
 TEST_F(Bands, ArePreferredAsAnswered)
