@@ -77,4 +77,12 @@ RADIO_API int radiosetTxPathFilter(signed char rat, int band, int mode, void* us
 RADIO_API int radioGetTxCarkit(int radioTech, int uiBand, int subband, int option, void* userData,
                                RadioRequestCallback callback);
 
+/// Chooses the scenario of the antenna optimisation logic.
+///
+/// @param scenario  as the modem numbers it
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetAolScenario(int scenario, void* userData, RadioRequestCallback callback);
+
 } // extern "C"

@@ -110,4 +110,20 @@ RADIO_API int radioSendDeviceStateExt(int deviceStateExt, void* userData, RadioR
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImbState(int state, void* userData, RadioRequestCallback callback);
 
+/// Tells the modem how the device's screen is folded.
+///
+/// @param state     as the modem numbers it
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioUpdateFoldScreenStatus(int state, void* userData, RadioRequestCallback callback);
+
+/// Sets the software version number of the device's identity (IMEISV, 3GPP TS 23.003).
+///
+/// @param svn       0 to 99 for a valid identity; sent as two hexadecimal digits or more
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetImeiSvn(int svn, void* userData, RadioRequestCallback callback);
+
 } // extern "C"

@@ -30,6 +30,11 @@ struct RadioImsRtpThresholdInfo {
 };
 static_assert(sizeof(RadioImsRtpThresholdInfo) == 36);
 
+/// Result of radioGetImsUssdEnabled.
+struct RadioImsUssd {
+    int32_t enabled; ///< 0 off, 1 on
+};
+
 extern "C" {
 
 /// Sets when audio quality is reported.
@@ -62,5 +67,31 @@ RADIO_API int radioSetImsRtpInfo(const RadioImsRtpInfo& info, void* userData, Ra
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void* userData,
                                       RadioRequestCallback callback);
+
+/// Whether supplementary services go over IMS (USSI, 3GPP TS 24.390).
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.imsUssd`, zero when the answer is no number; with
+///                  RADIO_APIS_FAILURE and a zeroed record when the modem refused or answered no field; or with
+///                  the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetImsUssdEnabled(void* userData, RadioRequestCallback callback);
+
+/// Switches calls over Wi-Fi while roaming between cellular and Wi-Fi. On, it takes two commands, of which the
+/// second one's answer is told.
+///
+/// @param enable    on or off
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCallback callback);
+
+/// Names the gateway of calls over Wi-Fi (ePDG, 3GPP TS 23.003).
+///
+/// @param fqdn      its name; of a long one the command's 255th character is the last
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused, as for null, or a control character or double
+///         quote in the text
+RADIO_API int radioSetCarrierOmacpFqdn(const char* fqdn, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

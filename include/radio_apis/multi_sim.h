@@ -32,4 +32,12 @@ RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback call
 RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData,
                                            RadioRequestCallback callback);
 
+/// Sets how the modem is to serve several SIM cards.
+///
+/// @param mode      as the modem numbers it
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetMsimSubModePref(int mode, void* userData, RadioRequestCallback callback);
+
 } // extern "C"

@@ -52,15 +52,24 @@ struct RadioModemHeapList {
     RadioModemHeap heaps[kRadioMaxHeaps];
 };
 
+inline constexpr unsigned kRadioMaxAtValues = 8;
+
+/// The numbers of an answer, up to the first field that is none: result of radioQueryFastDormancyMode,
+/// radioQueryLegacyFastDormancyMode and radioGetSarSnsData.
+struct RadioAtValues {
+    uint32_t count; ///< values that count, at most 8
+    int32_t values[kRadioMaxAtValues];
+};
+
 extern "C" {
 
-/// Sets power saving switches. With type 600 they are AT commands: group 3 sets `op` for the receive level
-/// adjustment of NR, 4 for the search without a SIM, 5 for the low power control; other groups are not
-/// supported yet.
+/// Sets power saving switches. With type 600 they are AT commands of one group: 1 sets five features from `op`,
+/// `dl`, `ul`, `delay` and `cnt`; 2 two of them from `op` and `dl`; 3 sets `op` for the receive level adjustment
+/// of NR, 4 for the search without a SIM, 5 for the low power control.
 ///
 /// @param info      the switches
 /// @param callback  called once with the modem's verdict; on success with an empty record
-/// @return 0 when handed to the modem, 1 when refused, which with type 600 every group but 3 to 5 is
+/// @return 0 when handed to the modem, 1 when refused, which with type 600 every group but 1 to 5 is
 RADIO_API int radioSetPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback callback);
 
 /// Sets when the modem may rest.
@@ -100,5 +109,46 @@ RADIO_API int radioSetFastDormancyTimer(int index, int timer, void* userData, Ra
 ///                  with RADIO_APIS_INVALID_PARAMETER and no record when the modem lists more than 50 heaps
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetModemHeapList(void* userData, RadioRequestCallback callback);
+
+/// Sets how the modem's voltage converter rests.
+///
+/// @param state     bits: 0 asleep, 1 the receiver follows the transmitter, 2 the 100k mode, 3 the converter is
+///                  an RQ4120, which needs bit 1 or 2
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
+///                  RADIO_APIS_FAILURE; the record is empty. Without bit 3 also with the modem's failure and no
+///                  record
+/// @return 0 when handed to the modem, 1 when refused, as for an RQ4120 without bit 1 or 2
+RADIO_API int radioUpdateDcdcSleepState(int state, void* userData, RadioRequestCallback callback);
+
+/// Has the modem ask the network to release its connection (fast dormancy).
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSendFastDormancy(void* userData, RadioRequestCallback callback);
+
+/// Sets the modem's conformance of packet services.
+///
+/// @param value1    as the modem defines it
+/// @param value2    likewise
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetPSConformanceMode(int value1, int value2, void* userData,
+                                        RadioRequestCallback callback);
+
+/// The modem's conformance of packet services, which fast dormancy depends on.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues` when the modem accepted the command,
+///                  else with RADIO_APIS_FAILURE and a zeroed record, or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioQueryFastDormancyMode(void* userData, RadioRequestCallback callback);
+
+/// Whether fast dormancy of releases before 8 is off.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues` when the modem accepted the command,
+///                  else with RADIO_APIS_FAILURE and a zeroed record, or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioQueryLegacyFastDormancyMode(void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -15,6 +15,8 @@
 #include "radio_apis/antenna.h"
 #include "radio_apis/atom.h"
 #include "radio_apis/bands.h"
+#include "radio_apis/camping.h"
+#include "radio_apis/carrier_aggregation.h"
 #include "radio_apis/cell_info.h"
 #include "radio_apis/device_state.h"
 #include "radio_apis/events.h"

@@ -4,8 +4,11 @@
 #include "radio_apis/antenna.h"
 #include "radio_apis/atom.h"
 #include "radio_apis/bands.h"
+#include "radio_apis/camping.h"
+#include "radio_apis/carrier_aggregation.h"
 #include "radio_apis/cell_info.h"
 #include "radio_apis/device_state.h"
+#include "radio_apis/ims.h"
 #include "radio_apis/metrics.h"
 #include "radio_apis/multi_sim.h"
 #include "radio_apis/network_action.h"
@@ -49,6 +52,16 @@ struct RadioApisResultType {
         RfIccInfo rfIccInfo;
         RadioNetworkActionState networkActionState;
         RadioServiceMode serviceModeInfo;
+        RadioCentricMode centricModeInfo;
+        RadioAtValues atValues;
+        RadioSimCardType simCardType;
+        RadioSimlockCategory simlockCategory;
+        RadioQrxlvmin qrxlvmin;
+        RadioNrcaConfig nrcaConfig;
+        RadioBwpConfig bwpConfig;
+        RadioCaStatus caInfo;
+        RadioDssConfig dssConfig;
+        RadioImsUssd imsUssd;
         RadioBandPrefer bandPrefer;
         RadioBandModes bandModes;
         RadioBandInfo bandInfo;

@@ -35,6 +35,16 @@ extern "C" {
 RADIO_API int radioSetAsdivFixPosition(int featureId, int index, void* userData,
                                        RadioRequestCallback callback);
 
+/// Enters the modem's RF test tables.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetAtcTableInit(void* userData, RadioRequestCallback callback);
+
+/// Leaves the modem's RF test tables; otherwise as radioSetAtcTableInit.
+RADIO_API int radiosetAtcTableDeInit(void* userData, RadioRequestCallback callback);
+
 /// Transmitter control of test benches. This library does not support it: each of the following functions
 /// logs so and returns 1; the callback is not called.
 RADIO_API int radioSetTasForceIdxByRat(int rat, int index, int state, int mode, void* userData,

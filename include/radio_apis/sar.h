@@ -47,4 +47,29 @@ RADIO_API int radioSetRtSarMode(int mode, void* userData, RadioRequestCallback c
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSarRegionCode(int regionCode, void* userData, RadioRequestCallback callback);
 
+/// Connects the SAR sensor.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioConnectSarSensor(void* userData, RadioRequestCallback callback);
+
+/// Disconnects the SAR sensor; otherwise as radioConnectSarSensor.
+RADIO_API int radioDisconnectSarSensor(void* userData, RadioRequestCallback callback);
+
+/// Chooses a channel of the SAR sensor.
+///
+/// @param channel   as the modem numbers it
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioSetSarSensorChannel(int channel, void* userData, RadioRequestCallback callback);
+
+/// What the SAR sensor says.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues` when the modem accepted the command,
+///                  else with RADIO_APIS_FAILURE and a zeroed record, or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetSarSnsData(void* userData, RadioRequestCallback callback);
+
 } // extern "C"

@@ -24,15 +24,17 @@ struct RadioPlmnBlockInfo {
 
 /// What the modem does while it is out of service: values as it defines them.
 struct RadioOosCfgInfo {
-    int32_t enable; ///< not sent by option 100
-    int32_t option; ///< what is configured; 100: the sniffer that watches for a network's return
-    int32_t p1;     ///< p1 to p6 are not sent by option 100
+    int32_t enable; ///< of options 3 and 4: 0 off, anything else on
+    int32_t
+        option; ///< what is configured, and by which values. 1: p7 to p11; 2: p1, p2, p3, p5 and p6; 3 and 4:
+                ///< enable; 5: p4; 100: the sniffer that watches for a network's return, p7 to p11
+    int32_t p1;
     int32_t p2;
     int32_t p3;
     int32_t p4;
     int32_t p5;
     int32_t p6;
-    int32_t p7; ///< the low 8 bits of p7 to p11 are sent
+    int32_t p7; ///< of p7 to p11 option 100 sends the low 8 bits
     int32_t p8;
     int32_t p9;
     int32_t p10;
@@ -84,12 +86,12 @@ RADIO_API int radioConfigCellBarringParam(unsigned int threshold, unsigned int w
                                           unsigned int barringTime, void* userData,
                                           RadioRequestCallback callback);
 
-/// Configures what the modem does while it is out of service.
+/// Sets what the modem does while it is out of service.
 ///
-/// @param info      option 100 and the sniffer's values; other options are not supported yet
-/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
-///                  library's delivery thread
-/// @return 0 when handed to the modem, 1 when refused, which every option but 100 is
+/// @param info      see the record
+/// @param callback  called once with the modem's verdict and an empty record; for option 100 the record is null
+///                  when that is a failure
+/// @return 0 when handed to the modem, 1 when refused, as for another option
 RADIO_API int radioSetOosCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -10,6 +10,11 @@ struct RadioServiceMode {
     int32_t serviceMode; ///< UE mode of operation: 0 PS mode 2, 1 CS/PS mode 1, 2 CS/PS mode 2, 3 PS mode 1
 };
 
+/// Result of radioGetCentricMode.
+struct RadioCentricMode {
+    int32_t centricMode; ///< what the usage is centred on, as the modem numbers it: voice or data
+};
+
 extern "C" {
 
 /// The UE mode of operation.
@@ -19,5 +24,28 @@ extern "C" {
 ///                  record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetServiceMode(void* userData, RadioRequestCallback callback);
+
+/// Sets the UE mode of operation. The modem's radio is switched off for that and on again.
+///
+/// @param mode      as in RadioServiceMode
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
+///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
+/// @return 0 once started, also when the modem then can't be reached
+RADIO_API int radioSetServiceMode(int mode, void* userData, RadioRequestCallback callback);
+
+/// Sets what the usage is centred on (3GPP TS 27.007, +CEUS). The radio is switched off for that and on again.
+///
+/// @param mode      as in RadioCentricMode
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
+///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
+/// @return 0 once started, also when the modem then can't be reached
+RADIO_API int radioSetCentricMode(int mode, void* userData, RadioRequestCallback callback);
+
+/// What the usage is centred on.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.centricModeInfo`, or with RADIO_APIS_FAILURE and a
+///                  zeroed record when the answer carried no mode, or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetCentricMode(void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -30,6 +30,18 @@ struct RadioUimAuthentication {
     uint8_t content[kRadioMaxAuthenticationBytes]; ///< the card's answer
 };
 
+/// Result of radioGetSimCardType.
+struct RadioSimCardType {
+    int32_t type;  ///< 1: a card of the test network 001/01, 0: any other
+    char imsi[16]; ///< at most 15 digits (3GPP TS 23.003)
+};
+
+/// Result of radioGetSimlockCategoryData.
+struct RadioSimlockCategory {
+    uint32_t length;     ///< characters
+    char category[1024]; ///< as the modem writes it; a longer one is cut
+};
+
 extern "C" {
 
 /// Whether the SIM trays are in.
@@ -126,5 +138,24 @@ RADIO_API int radioSetUimPowerUp(void* userData, RadioRequestCallback callback);
 ///                  library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetUimPowerDown(void* userData, RadioRequestCallback callback);
+
+/// What kind of SIM card it is.
+///
+/// @param option    not sent
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.simCardType`, with RADIO_APIS_FAILURE and a
+///                  zeroed record without a card, or with the modem's failure and no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetSimCardType(int option, void* userData, RadioRequestCallback callback);
+
+/// The categories of the SIM lock.
+///
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.simlockCategory`, with RADIO_APIS_FAILURE and
+///                  a zeroed record when the modem refused or answered nothing, or with the modem's failure and
+///                  no record
+/// @return 0 when handed to the modem, 1 when refused
+RADIO_API int radioGetSimlockCategoryData(void* userData, RadioRequestCallback callback);
+
+/// Not supported: logs so and returns 1; the callback is not called.
+RADIO_API int radioGetSimlockLockStatus(void* userData, RadioRequestCallback callback);
 
 } // extern "C"
