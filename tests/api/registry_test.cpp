@@ -114,29 +114,6 @@ TEST_F(Registry, CreatesClientsOnceAndResetsTheirSubscriptions)
     EXPECT_EQ(heard, 2); // the listener stayed
 }
 
-TEST_F(Registry, AnswersAfterARelease)
-{
-    ASSERT_EQ(radioApisInit(kModem, 0), 0);
-    EXPECT_EQ(request(), 0);
-    EXPECT_EQ(radioGetServiceMode(&caller, Caller::onResult), 0);
-    EXPECT_EQ(radioSendScreenState(1, &caller, Caller::onResult), 0);
-    modem.journal.clear();
-    EXPECT_EQ(radioApisReleaseService(kModem), 0);
-    EXPECT_EQ(modem.journal, std::vector<std::string>{"reset"});
-    EXPECT_EQ(request(), 1);
-    modem.answer({result(0)});
-    modem.answer({result(0), text(0x8100, "\r\n+CEMODE: 1\r\nOK\r\n")});
-    modem.answer({result(21)});
-    EXPECT_EQ(caller.calls, 3);
-    EXPECT_EQ(radioApisReleaseService(kModem), 0);
-    EXPECT_EQ(radioApisDeinit(), 0);
-    EXPECT_EQ(radioApisInit(kModem, 0), 0);
-    EXPECT_EQ(request(), 0);
-    modem.answer({result(0)});
-    EXPECT_EQ(caller.calls, 4);
-    EXPECT_EQ(std::ranges::count(modem.journal, "init subsys-daemon"), 0); // the channel stayed open
-}
-
 TEST_F(Registry, ReportsTheChannelsFailure)
 {
     host::setProperty("ro.vendor.zor_vorn_support", "10");

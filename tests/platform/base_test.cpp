@@ -1,11 +1,7 @@
-#include "android/log.h"
 #include "cutils/properties.h"
 #include "host/device.h"
 #include "mindroid/exception.h"
-#include "mindroid/integer.h"
-#include "mindroid/log.h"
 #include "mindroid/parcel.h"
-#include "zor/log.h"
 #include "zor/property.h"
 
 #include <gtest/gtest.h>
@@ -15,24 +11,9 @@
 
 namespace {
 
-using mindroid::Integer;
 using mindroid::Parcel;
 using mindroid::ParcelException;
 using mindroid::sp;
-
-TEST(Integer, takesWholeDecimalNumbersOnly)
-{
-    const std::pair<const char*, int32_t> rows[] = {
-        {"0", 0}, {"+7", 7}, {"-007", -7}, {"2147483647", 2147483647}, {"-2147483648", -2147483647 - 1}};
-    for (const auto& [text, value] : rows) {
-        EXPECT_EQ(Integer::parseInt(text), value) << text;
-    }
-    for (const char* text :
-         {"", "+", "-", "+-1", "--1", " 2", "2 ", "0x1", "1.0", "2147483648", "99999999999"}) {
-        EXPECT_EQ(Integer::tryParse(text), std::nullopt) << text;
-        EXPECT_THROW(Integer::parseInt(text), mindroid::NumberFormatException) << text;
-    }
-}
 
 TEST(Parcel, isReadAsItWasWritten)
 {
@@ -55,32 +36,6 @@ TEST(Parcel, isReadAsItWasWritten)
         EXPECT_EQ(parcel->getString(), i == 50 ? longText : "");
     }
     EXPECT_THROW(parcel->getInt(), ParcelException) << "nothing left";
-}
-
-void logOneOfEach()
-{
-    zorLogD("Tag", "debug %d", 1);
-    __android_log_print(ANDROID_LOG_DEBUG, "Tag", "android");
-    zorLogW("Tag", "two\r\nlines");
-    mindroid::Log::e("Tag", "%s", std::string(1000, 'x').c_str());
-    __android_log_print(ANDROID_LOG_ERROR, nullptr, "no tag");
-}
-
-TEST(Log, levelOfTheEnvironmentDecides)
-{
-    const std::string error = "E Tag: " + std::string(1000, 'x') + "\nE no tag\n";
-    const std::string warning = "W Tag: two  lines\n" + error;
-    const std::string debug = "D Tag: debug 1\nD Tag: android\n" + warning;
-    // The level is read once in a process, so each row needs one.
-    for (const auto& [level, lines] :
-         {std::pair("debug", debug), {"warn", warning}, {"error", error}, {"off", ""}}) {
-        const auto logAndExit = [level = level] {
-            setenv("RADIO_LOG", level, 1);
-            logOneOfEach();
-            _Exit(0);
-        };
-        EXPECT_EXIT(logAndExit(), testing::ExitedWithCode(0), "^" + lines + "$") << level;
-    }
 }
 
 TEST(Properties, comeFromTheDeviceRootUnlessSet)

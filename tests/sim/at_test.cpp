@@ -84,20 +84,5 @@ TEST(AtCommands, WrongGrammarIsAnError)
     EXPECT_EQ(executeAt(builtInSlots()[0], "AT+CEMODE=" + std::string(5000, ' ') + "1").text, kError);
 }
 
-TEST(AtCommands, LinesAreTakenApart)
-{
-    const auto line = parseAt(*normalizeAt("at+EGMC=1, \"a, b\",,\"\" ,7\r\n"));
-    ASSERT_TRUE(line);
-    EXPECT_EQ(line->name, "+EGMC");
-    EXPECT_EQ(line->form, AtForm::Set);
-    std::vector<std::pair<std::string, bool>> parameters;
-    for (const auto& parameter : line->parameters) {
-        parameters.emplace_back(parameter.text, parameter.quoted);
-    }
-    const std::vector<std::pair<std::string, bool>> expected{
-        {"1", false}, {"a, b", true}, {"", false}, {"", true}, {"7", false}};
-    EXPECT_EQ(parameters, expected);
-}
-
 } // namespace
 } // namespace sim::test

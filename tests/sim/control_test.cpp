@@ -34,18 +34,6 @@ TEST_F(Control, Errors)
     EXPECT_TRUE(mIndications.empty());
 }
 
-TEST_F(Control, StateShowsWhatWasSet)
-{
-    ask(0x3895, {{256, i32(-1)}, {257, i32(2)}}, 2);
-    ask(51, {{256, i32(4)}, {257, i32(0)}, {0x8102, Bytes(9)}}, 2);
-    ask(3, {{0x8100, text("AT+CEMODE=1")}}, 2);
-    const auto slot = control(R"({"command": "state"})")["slots"][1];
-    EXPECT_EQ(slot["settings"]["SetSarState"].dump(), R"([{"source":-1,"state":2}])");
-    EXPECT_EQ(slot["nv"][1].dump(), R"({"id":4,"index":0,"length":9})");
-    EXPECT_EQ(slot["at"]["+CEMODE"][0], "1");
-    EXPECT_EQ(slot["serving"]["pci"], 44);
-}
-
 TEST_F(Control, Acts)
 {
     EXPECT_TRUE(

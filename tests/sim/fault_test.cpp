@@ -33,14 +33,6 @@ TEST_F(Faults, StrikeWhatTheyMatch)
         << "a refused request changes nothing";
 }
 
-TEST_F(Faults, LoseAnswers)
-{
-    add(R"({"match": {"message": "0x3895"}, "action": "drop", "count": 1})");
-    send(0x3895, sar);
-    EXPECT_THAT(mAnswers, IsEmpty());
-    EXPECT_EQ(mModem->nextDeadline(), std::nullopt);
-}
-
 TEST_F(Faults, DelayAnswersAndKeepTheirOrder)
 {
     add(R"({"match": {"message": "SetSarState"}, "action": "delay", "ms": 50, "count": 1})");
@@ -60,17 +52,6 @@ TEST_F(Faults, DelayAnswersAndKeepTheirOrder)
 
     mModem->forget(kClient);
     EXPECT_EQ(mModem->nextDeadline(), std::nullopt);
-}
-
-TEST_F(Faults, DoubleAnswersAndGiveThemAway)
-{
-    add(R"({"action": "duplicate", "count": 1})");
-    add(R"({"action": "wrong_transaction", "count": 1})");
-    send(0x3895, sar, 1, 1);
-    EXPECT_THAT(mAnswers, SizeIs(2));
-    EXPECT_EQ(mAnswers[0].fields, mAnswers[1].fields);
-    send(0x3895, sar, 1, 2);
-    EXPECT_EQ(mAnswers[2].header.tx_id, 0x8002);
 }
 
 TEST_F(Faults, TakeTheLinkDown)

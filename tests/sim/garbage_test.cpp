@@ -18,23 +18,6 @@ protected:
     std::mt19937 mRandom{20240607};
 };
 
-TEST_F(Garbage, AtCommands)
-{
-    constexpr std::string_view kPieces[] = {"AT", "+", "CFUN", "CEMODE", "=",  "?", "\"",
-                                            ",",  " ", "1",    "\r",     "\n", "E"};
-    for (int i = 0; i < 20'000; ++i) {
-        std::string command = i % 2 == 0 ? "AT+" : "";
-        for (auto rest = mRandom() % 12; rest > 0; --rest) {
-            const auto piece = mRandom() % (std::size(kPieces) + 1);
-            command += piece < std::size(kPieces) ? kPieces[piece]
-                                                  : std::string(1, static_cast<char>(1 + mRandom() % 255));
-        }
-        const auto answer = std::get<Bytes>(ask(3, {{0x8100, text(command)}})[0x8100]);
-        ASSERT_THAT(std::string(answer.begin(), answer.end()), testing::EndsWith(std::string("\r\n\0", 3)));
-    }
-    EXPECT_EQ(ask(3, {{0x8100, text("AT" + std::string(65'000, '"'))}})[0], i32(0));
-}
-
 TEST_F(Garbage, Requests)
 {
     const auto& messages = Protocol::instance().messages();

@@ -72,18 +72,6 @@ TEST_F(Indications, OfEveryKindAreAsTheCatalogueHasThem)
     expectFits(told("veyra-cell-info"), *Protocol::instance().find("VeyraCellInfoInd"), false);
 }
 
-TEST_F(Indications, NamesAndValuesMayBeShort)
-{
-    for (const std::string name : {"TestInd", "test-ind", "Test", "test", "0x7E02"}) {
-        EXPECT_THAT(told(name, 1, R"(, "value": -7)"), ElementsAre(testing::Pair(256, i32(-7)))) << name;
-    }
-    EXPECT_THAT(told("test", 1, R"(, "times": 3)"), ElementsAre(testing::Pair(256, i32(8))));
-    EXPECT_THAT(mIndications, SizeIs(3));
-    const auto given = told("hyper-uplink-state", 0, R"(, "fields": {"state": 6})");
-    EXPECT_THAT(given, ElementsAre(testing::Pair(256, i32(0)), testing::Pair(257, i32(6)),
-                                   testing::Pair(258, i32(0))));
-}
-
 TEST_F(Indications, MeasurementReport)
 {
     start(R"({"slots": [{"operator": {"mcc": 460, "mnc": 123, "mncDigits": 3}}, {"serving": null}]})");
@@ -157,20 +145,6 @@ TEST_F(Indications, FollowFromRequests)
         }
         EXPECT_EQ(takeIds(), row.indications);
     }
-}
-
-TEST_F(Indications, FollowTheAnswerWhateverBecomesOfIt)
-{
-    start(R"({"faults": [{"action": "result", "count": 1}, {"action": "drop", "count": 1},
-                         {"action": "delay", "ms": 50, "count": 1}]})");
-    send(0x3801, numbers({1}));
-    EXPECT_THAT(takeIds(), IsEmpty()) << "not carried out";
-    send(0x3801, numbers({1}));
-    EXPECT_THAT(takeIds(), SizeIs(1)) << "carried out, only the answer is lost";
-    send(0x3801, numbers({1}));
-    EXPECT_THAT(takeIds(), IsEmpty());
-    mModem->advance(mNow + 50ms);
-    EXPECT_THAT(takeIds(), SizeIs(1));
 }
 
 TEST_F(Indications, ComePeriodicallyUntilSwitchedOff)

@@ -73,14 +73,5 @@ TEST_F(Nv, WriteFailsWhenTheFileCanNotBeReplaced)
     EXPECT_THAT(mLog, HasSubstr("/no/such/folder/nv.json: can't be written"));
 }
 
-TEST_F(Nv, HasRoomForSoManyItems)
-{
-    for (int32_t id = 0; id < 4096 - 2; ++id) { // two are the scenario's
-        ASSERT_EQ(write(id, {1}), i32(0));
-    }
-    EXPECT_EQ(write(4096, {1}), i32(1));
-    EXPECT_EQ(write(0, {2}), i32(0));
-}
-
 } // namespace
 } // namespace sim::test

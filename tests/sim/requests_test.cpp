@@ -68,30 +68,5 @@ TEST_F(Requests, ThatFitNoRowAreRefused)
     }
 }
 
-TEST(Catalogue, FaultyRowsAreNamed)
-{
-    const std::vector<std::pair<std::string, std::string>> rows{
-        {R"([{"id": "0x99999", "name": "A", "kind": "request"}])", "/0/id: must be a 16-bit number"},
-        {R"([{"id": "1", "name": "A", "kind": "answer"}])", "/0/kind: must be request or indication"},
-        {R"([{"id": "1", "name": "A", "kind": "request", "request": [{"tag": 1, "name": "b", "type": "int33"}]}])",
-         "/0/request/0/type: unknown type"},
-        {R"([{"id": "1", "name": "A", "kind": "request", "indication": []}])", "/0/indication: unknown name"},
-    };
-    for (const auto& [json, reason] : rows) {
-        EXPECT_THAT([text = json] { Protocol{text}; },
-                    testing::ThrowsMessage<std::runtime_error>(StartsWith(reason)));
-    }
-}
-
-TEST_F(Requests, RadioOffMeansNoService)
-{
-    EXPECT_THAT(ask(3, {{0x8100, text("AT+CFUN=4\r")}}),
-                ElementsAre(Pair(0, i32(0)), Pair(0x8100, text("\r\nOK\r\n"))));
-    EXPECT_THAT(ask(0x3825), ElementsAre(Pair(0, i32(0)), Pair(256, i32(1))));
-    EXPECT_EQ(std::get<Bytes>(ask(0x3821)[256]).front(), 0) << "no radio access technology";
-    EXPECT_FALSE(mAnswers[0].fields.contains(257));
-    EXPECT_THAT(ask(0x3825, {}, 2), ElementsAre(Pair(0, i32(0)), Pair(256, i32(1)))) << "slots are apart";
-}
-
 } // namespace
 } // namespace sim::test

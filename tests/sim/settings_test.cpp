@@ -6,40 +6,6 @@ namespace {
 
 class Settings : public ModemTest {};
 
-Value u32s(const std::vector<uint32_t>& words)
-{
-    Bytes block;
-    for (const uint32_t word : words) {
-        append(block, word);
-    }
-    return block;
-}
-
-TEST_F(Settings, HeapListAddsUp)
-{
-    const auto block = std::get<Bytes>(ask(0x3845)[256]);
-    const auto count = toNumber<uint32_t>(block, 20);
-    ASSERT_EQ(block.size(), 24 + 28 * count);
-    uint32_t used = 0;
-    for (size_t i = 0; i < count; ++i) {
-        EXPECT_EQ(block[24 + 28 * i + 19], 0) << "names end";
-        used += toNumber<uint32_t>(block, 24 + 28 * i + 24);
-    }
-    EXPECT_EQ(used, toNumber<uint32_t>(block, 8));
-    EXPECT_EQ(toNumber<uint32_t>(block, 4) - used, toNumber<uint32_t>(block, 12));
-}
-
-TEST_F(Settings, ReportRecordsCountIndications)
-{
-    for (int i = 0; i < 3; ++i) {
-        control(R"({"command": "indicate", "message": "TestInd", "slot": 0, "fields": {"data": 9}})");
-    }
-    control(R"({"command": "indicate", "message": "NecInd", "slot": 0, "fields": {"data": "00ff"}})");
-    EXPECT_EQ(mIndications.back().fields[256], Value(Bytes{0, 255}));
-    EXPECT_EQ(ask(0x383D)[256], u32s({2, 0x7E01, 1, 0x7E02, 3}));
-    EXPECT_EQ(ask(0x383D, {}, 2)[256], u32s({0}));
-}
-
 TEST_F(Settings, OfAScenarioAreThereFromTheStart)
 {
     start(

@@ -105,18 +105,6 @@ TEST_F(SimCards, AnswerTheirNetworkOnce)
     EXPECT_EQ(challenge(mRand + mAutn, 0, 2).size(), 44U) << "slots are apart";
 }
 
-TEST_F(SimCards, MayHaveOtherSecrets)
-{
-    const auto with = [&](const std::string& members) {
-        start(R"({"slots": [{"sim": {"authentication": {)" + members + "}}}]}");
-        return challenge(mRand + mAutn).size();
-    };
-    EXPECT_EQ(with(R"("op": null, "opc": "cd63cb71954a9f4e48a5994e37a02baf")"), 44U);
-    EXPECT_EQ(with(R"("sqn": "ff9bb4d0b608")"), 16U);
-    EXPECT_EQ(with(R"("amf": "8000")"), 0U);
-    EXPECT_EQ(with(R"("k": "00000000000000000000000000000000")"), 0U);
-}
-
 TEST_F(SimCards, NeedPower)
 {
     const auto power = [&](uint8_t on) {
