@@ -45,3 +45,8 @@ int radioGetTxCarkit(int radioTech, int uiBand, int subband, int option, void* u
     return forward(__func__, &VornRadioClient::getTxCarkit, radioTech, uiBand, subband, option, userData,
                    callback);
 }
+
+int radioSetAolScenario(int scenario, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::setAolScenario, scenario, userData, callback);
+}

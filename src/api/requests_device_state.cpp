@@ -59,3 +59,13 @@ int radioSetImbState(int state, void* userData, RadioRequestCallback callback)
 {
     return forward(__func__, &VornRadioClient::setImbState, state, userData, callback);
 }
+
+int radioUpdateFoldScreenStatus(int state, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::updateFoldScreenStatus, state, userData, callback);
+}
+
+int radioSetImeiSvn(int svn, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::setImeiSvn, svn, userData, callback);
+}

@@ -23,3 +23,18 @@ int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void* userData
 {
     return forward(__func__, &VornVsClient::setImsRtpThreshold, info, userData, callback);
 }
+
+int radioGetImsUssdEnabled(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::getImsUssdEnabled, userData, callback);
+}
+
+int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::setCiwlanUiSwitch, enable, userData, callback);
+}
+
+int radioSetCarrierOmacpFqdn(const char* fqdn, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::setCarrierOmacpFqdn, fqdn, userData, callback);
+}

@@ -34,3 +34,28 @@ int radioSetFastDormancyTimer(int index, int timer, void* userData, RadioRequest
 {
     return forward(__func__, &VornRadioClient::setFastDormancyTimer, index, timer, userData, callback);
 }
+
+int radioUpdateDcdcSleepState(int state, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::updateDcdcSleepState, state, userData, callback);
+}
+
+int radioSendFastDormancy(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::sendFastDormancy, userData, callback);
+}
+
+int radioSetPSConformanceMode(int value1, int value2, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::setPSConformanceMode, value1, value2, userData, callback);
+}
+
+int radioQueryFastDormancyMode(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::queryFastDormancyMode, userData, callback);
+}
+
+int radioQueryLegacyFastDormancyMode(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::queryLegacyFastDormancyMode, userData, callback);
+}

@@ -36,3 +36,13 @@ int radioSetComboRfTxInfo(const std::vector<RFTXINFO>& infos, void* userData, Ra
 {
     return forward(__func__, &VornAtClient::setComboRfTxInfo, infos, userData, callback);
 }
+
+int radioSetAtcTableInit(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::setAtcTableInit, userData, callback);
+}
+
+int radiosetAtcTableDeInit(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::setAtcTableDeInit, userData, callback);
+}

@@ -25,3 +25,23 @@ int radioSetSarRegionCode(int regionCode, void* userData, RadioRequestCallback c
 {
     return forward(__func__, &VornVsClient::setSarRegionCode, regionCode, userData, callback);
 }
+
+int radioConnectSarSensor(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::connectSarSensor, userData, callback);
+}
+
+int radioDisconnectSarSensor(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::disconnectSarSensor, userData, callback);
+}
+
+int radioSetSarSensorChannel(int channel, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::setSarSensorChannel, channel, userData, callback);
+}
+
+int radioGetSarSnsData(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::getSarSnsData, userData, callback);
+}

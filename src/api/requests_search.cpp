@@ -30,9 +30,8 @@ int radioSetOosCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCall
 {
     constexpr int kSniffer = 100;
     zorLogE(kApiTag, "%s : radioSetOosCfg tlssubid %d", __func__, static_cast<int>(tlssubid));
-    if (info.option != kSniffer) {
-        zorLogE(kApiTag, "%s : unsupported option %d", __func__, info.option);
-        return RADIO_APIS_FAILURE;
+    if (info.option == kSniffer) {
+        return forward(__func__, &VornRadioClient::setOosSnifferCfg, info, userData, callback);
     }
-    return forward(__func__, &VornRadioClient::setOosSnifferCfg, info, userData, callback);
+    return forward(__func__, &VornAtClient::setOosCfg, info, userData, callback);
 }

@@ -59,3 +59,18 @@ int radioSetUimPowerDown(void* userData, RadioRequestCallback callback)
     logInstance(__func__);
     return forward(__func__, &VornRadioClient::setUimPowerDown, userData, callback);
 }
+
+int radioGetSimCardType(int option, void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::getSimCardType, option, userData, callback);
+}
+
+int radioGetSimlockCategoryData(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::getSimlockCategoryData, userData, callback);
+}
+
+int radioGetSimlockLockStatus(void* userData, RadioRequestCallback callback)
+{
+    return forward(__func__, &VornAtClient::getSimlockLockStatus, userData, callback);
+}

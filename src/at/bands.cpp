@@ -1,4 +1,5 @@
 /// Bands that the modem may use, and those it could.
+#include "at/at_answer.h"
 #include "at/at_chain_promise.h"
 #include "at/at_cmd_parser.h"
 #include "at/at_log.h"
@@ -13,42 +14,14 @@
 #include <string>
 #include <string_view>
 
+using at::acceptedPieces;
 using at::kTag;
+using at::Pieces;
 using mindroid::make;
 using mindroid::Parcel;
 using mindroid::sp;
 
 namespace {
-
-using Pieces = std::vector<std::string_view>;
-
-std::string_view withoutAround(std::string_view text, std::string_view characters)
-{
-    const size_t begin = text.find_first_not_of(characters);
-    return begin == std::string_view::npos
-               ? std::string_view()
-               : text.substr(begin, text.find_last_not_of(characters) - begin + 1);
-}
-
-/// What is between the commas, without the blanks and quotes around it.
-Pieces piecesOf(std::string_view text)
-{
-    Pieces pieces;
-    for (;;) {
-        const size_t end = text.find(',');
-        pieces.push_back(withoutAround(text.substr(0, end), " \""));
-        if (end == std::string_view::npos) {
-            return pieces;
-        }
-        text.remove_prefix(end + 1);
-    }
-}
-
-/// The pieces of an accepted answer's data; nothing when it was refused. Throws when there is no data.
-std::optional<Pieces> acceptedPieces(const sp<Parcel>& answer)
-{
-    return answer->getBoolean() ? std::optional(piecesOf(answer->getString())) : std::nullopt;
-}
 
 /// A mask of 32 bits in decimal digits, which the modem may take for a signed number.
 std::optional<uint32_t> toMask(std::string_view digits)

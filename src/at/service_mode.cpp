@@ -1,9 +1,8 @@
 /// Service domain and usage of the device.
-#include "at/at_cmd_parser.h"
+#include "at/at_answer.h"
 #include "at/at_log.h"
+#include "at/at_text.h"
 #include "at/vorn_at_client.h"
-
-#include <optional>
 
 using at::kTag;
 using mindroid::Parcel;
@@ -11,20 +10,10 @@ using mindroid::sp;
 
 namespace {
 
-/// The mode in an answer that carries one integer; nothing for every other answer.
-std::optional<int32_t> modeOf(const sp<Parcel>& answer)
-{
-    const bool accepted = answer->getBoolean();
-    if (accepted && answer->getInt() >= 1 && answer->getByte() == AtCmdParser::kInteger) {
-        return answer->getInt();
-    }
-    return std::nullopt;
-}
-
 RADIO_APIS_RESULT onServiceMode(const sp<Parcel>& answer, RadioApisResultType* result)
 {
     zorLogD(kTag, "getServiceMode :cb Enter");
-    const auto mode = modeOf(answer);
+    const auto mode = at::firstInteger(answer);
     if (!mode) {
         return RADIO_APIS_FAILURE;
     }
@@ -33,10 +22,44 @@ RADIO_APIS_RESULT onServiceMode(const sp<Parcel>& answer, RadioApisResultType* r
     return RADIO_APIS_SUCCESS;
 }
 
+RADIO_APIS_RESULT onCentricMode(const sp<Parcel>& answer, RadioApisResultType* result)
+{
+    zorLogD(kTag, "getCentricMode :cb Enter");
+    const auto mode = at::firstInteger(answer);
+    if (!mode) {
+        return RADIO_APIS_FAILURE;
+    }
+    result->rsp.centricModeInfo.centricMode = *mode;
+    zorLogD(kTag, "getCentricMode : result->rsp.centricModeInfo.centricMode : %d", *mode);
+    return RADIO_APIS_SUCCESS;
+}
+
 } // namespace
+
+int VornAtClient::setServiceMode(int mode, void* userData, RadioRequestCallback cb)
+{
+    const AtText<32> command("AT+CEMODE=%d", mode);
+    zorLogD(kTag, "%s: ENTER: %d", __func__, mode);
+    zorLogD(kTag, "%s: ENTER: cmd %s", __func__, static_cast<const char*>(command));
+    return sendSetters({"AT+CFUN=0", std::string(command), "AT+CFUN=1"}, userData, cb);
+}
 
 int VornAtClient::getServiceMode(void* userData, RadioRequestCallback cb)
 {
     zorLogD(kTag, "%s: ENTER", __func__);
-    return sendAtCommand("AT+CEMODE?", userData, cb, mindroid::make<AtResponseCallback>(onServiceMode));
+    return sendQuery("AT+CEMODE?", userData, cb, onServiceMode);
+}
+
+int VornAtClient::setCentricMode(int mode, void* userData, RadioRequestCallback cb)
+{
+    const AtText<32> command("AT+CEUS=%d", mode);
+    zorLogD(kTag, "%s: ENTER: %d", __func__, mode);
+    zorLogD(kTag, "%s: ENTER: cmd %s", __func__, static_cast<const char*>(command));
+    return sendSetters({"AT+CFUN=0", std::string(command), "AT+CFUN=1"}, userData, cb);
+}
+
+int VornAtClient::getCentricMode(void* userData, RadioRequestCallback cb)
+{
+    zorLogD(kTag, "%s: ENTER", __func__);
+    return sendQuery("AT+CEUS?", userData, cb, onCentricMode);
 }

@@ -1,8 +1,12 @@
 #include "at/vorn_at_client.h"
 
+#include "at/at_chain_promise.h"
 #include "at/at_cmd_parser.h"
 #include "at/at_log.h"
 #include "mindroid/exception.h"
+
+#include <algorithm>
+#include <string_view>
 
 using at::kTag;
 using mindroid::Parcel;
@@ -138,6 +142,33 @@ int VornAtClient::sendAtCommandRspRawStr(const char* cmd, void* userData, RadioR
 int VornAtClient::sendSetter(const char* cmd, void* userData, RadioRequestCallback cb)
 {
     return sendAtCommand(cmd, userData, cb, mindroid::make<AtResponseCallback>(completeWithResultVoid));
+}
+
+int VornAtClient::sendSetters(const std::vector<std::string>& commands, void* userData,
+                              RadioRequestCallback cb)
+{
+    const auto chain = mindroid::make<AtChain>();
+    for (const std::string& command : commands) {
+        chain->add(command.c_str(), completeWithResultVoid);
+    }
+    chain->start(this, userData, cb);
+    return RADIO_APIS_SUCCESS;
+}
+
+int VornAtClient::sendQuery(const char* cmd, void* userData, RadioRequestCallback cb,
+                            AtResponseCallback::Function interpreter)
+{
+    return sendAtCommand(cmd, userData, cb, mindroid::make<AtResponseCallback>(std::move(interpreter)));
+}
+
+bool VornAtClient::isPlainText(const char* method, const char* text)
+{
+    const auto isPlain = [](unsigned char c) { return c >= ' ' && c != 0x7F && c != '"'; };
+    if (text != nullptr && std::ranges::all_of(std::string_view(text), isPlain)) {
+        return true;
+    }
+    zorLogE(kTag, "%s: the text is missing, or holds a control character or a double quote", method);
+    return false;
 }
 
 RADIO_APIS_RESULT VornAtClient::completeWithResultVoid(const sp<Parcel>& answer, RadioApisResultType*)

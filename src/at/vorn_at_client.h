@@ -4,8 +4,14 @@
 #include "at/at_callbacks.h"
 #include "channel/vorn_client.h"
 #include "mindroid/handler.h"
+#include "radio_apis/camping.h"
+#include "radio_apis/operation_mode.h"
 #include "radio_apis/power.h"
 #include "radio_apis/rf.h"
+#include "radio_apis/search.h"
+
+#include <string>
+#include <vector>
 
 /// One per instance, held by strong pointers: a command on its way keeps its client.
 class VornAtClient : public VornClient, public mindroid::Handler {
@@ -56,11 +62,97 @@ public:
     int setRfTxPower(const RFTXINFO& info, void* userData, RadioRequestCallback cb);
     int setComboRfTxInfo(const std::vector<RFTXINFO>& infos, void* userData, RadioRequestCallback cb);
 
+    // Service domain and usage: both are set between switching the radio off and on again.
+    int setServiceMode(int mode, void* userData, RadioRequestCallback cb);
     int getServiceMode(void* userData, RadioRequestCallback cb);
+    int setCentricMode(int mode, void* userData, RadioRequestCallback cb);
+    int getCentricMode(void* userData, RadioRequestCallback cb);
 
-    /// The switches of groups 3 to 5, one command each. Other groups are refused with 1 and a line in the
-    /// log.
+    /// Sets the mode and looks 500 ms later, and after as long again, whether the modem has it. Calls back once,
+    /// whatever fails.
+    int setOperationMode(RADIO_OPERATION_MODE_TYPE mode, void* userData, RadioRequestCallback cb);
+    int getOperationMode(void* userData, RadioRequestCallback cb);
+    int requireModemReboot(void* userData, RadioRequestCallback cb);
+
+    // Power saving. Groups of switches that there are not, and impossible states, are refused with 1 and a line
+    // in the log.
     int setPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback cb);
+    int updateDcdcSleepState(int state, void* userData, RadioRequestCallback cb);
+    int sendFastDormancy(void* userData, RadioRequestCallback cb);
+    int setPSConformanceMode(int value1, int value2, void* userData, RadioRequestCallback cb);
+    int queryFastDormancyMode(void* userData, RadioRequestCallback cb);
+    int queryLegacyFastDormancyMode(void* userData, RadioRequestCallback cb);
+
+    // Search. Unknown technologies and options are refused with 1 and a line in the log.
+    int setBackgroundSearch(int rat, bool ignoreNeighbourList, bool enable, void* userData,
+                            RadioRequestCallback cb);
+    int setOosCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCallback cb);
+    int clearStoredFrequency(int option, void* userData, RadioRequestCallback cb);
+    int performRetHighRat(int rat, int reserve, void* userData, RadioRequestCallback cb);
+    int setRedirectOptSetting(int value, int value2, int value3, int value4, int value5, int value6,
+                              void* userData, RadioRequestCallback cb);
+    int setAttachPriority(int value, int value2, int value3, int value4, int value5, void* userData,
+                          RadioRequestCallback cb);
+
+    /// The first technology decides the order. LTE: the list may lack NR and have three; NR: it must have four.
+    int setRatScan(int* rats, int count, void* userData, RadioRequestCallback cb);
+
+    // Camping. Unknown technologies, options and types are refused with 1 and a line in the log.
+    int setQrxlvminCfg(const RadioQrxlvminCfgInfo& info, void* userData, RadioRequestCallback cb);
+    int getQrxlvminCfg(int rat, void* userData, RadioRequestCallback cb);
+    int setArrearageCfg(const RadioArrearageCfgInfo& info, void* userData, RadioRequestCallback cb);
+    int lockCellAndBand(RadioLockCellInfoType info, void* userData, RadioRequestCallback cb);
+    int unlockCellAndBand(int option, void* userData, RadioRequestCallback cb);
+    int enableCellBarring(unsigned char value, void* userData, RadioRequestCallback cb);
+
+    /// `type` has a bit for LTE and one for NR; the limits are sent before the two switches, and only when one of
+    /// these is on.
+    int setPingpongBarSetting(int type, int barTime, int period, int hitCnt, int reserve, void* userData,
+                              RadioRequestCallback cb);
+
+    // Carrier aggregation, bandwidth parts, dynamic spectrum sharing.
+    int setCaStatus(int rat, bool enable, void* userData, RadioRequestCallback cb);
+    int getCaStatus(int rat, void* userData, RadioRequestCallback cb);
+    int setNrcaConfig(unsigned char value, unsigned char reserve, void* userData, RadioRequestCallback cb);
+    int getNrcaConfig(void* userData, RadioRequestCallback cb);
+    int readNRCAConfig(void* userData, RadioRequestCallback cb);
+    int setBwpConfig(unsigned char value, unsigned char reserve, void* userData, RadioRequestCallback cb);
+    int getBwpConfig(void* userData, RadioRequestCallback cb);
+    int setWhiteSANRCAConfig(const char* list, void* userData, RadioRequestCallback cb);
+    int setBlackSANRCAConfig(const char* list, void* userData, RadioRequestCallback cb);
+    int setWhiteNSANRCAConfig(const char* list, void* userData, RadioRequestCallback cb);
+    int resetSANSAWhiteList(int list, void* userData, RadioRequestCallback cb);
+    int setDssConfig(int value, void* userData, RadioRequestCallback cb);
+    int setDssAdditionalConfig(int value, void* userData, RadioRequestCallback cb);
+    int readDssConfig(void* userData, RadioRequestCallback cb);
+    int setUst5gUCBandConfig(const char* lteBands, const char* nrBands, void* userData,
+                             RadioRequestCallback cb);
+
+    /// Refused: logs so and returns 1.
+    int setUst5gUCConfig(unsigned char value1, unsigned char value2, unsigned char value3, void* userData,
+                         RadioRequestCallback cb);
+
+    // SIM cards.
+    int getSimCardType(int option, void* userData, RadioRequestCallback cb);
+    int getSimlockCategoryData(void* userData, RadioRequestCallback cb);
+    int setMsimSubModePref(int mode, void* userData, RadioRequestCallback cb);
+
+    /// Refused: logs so and returns 1.
+    int getSimlockLockStatus(void* userData, RadioRequestCallback cb);
+
+    // The device around the modem.
+    int connectSarSensor(void* userData, RadioRequestCallback cb);
+    int disconnectSarSensor(void* userData, RadioRequestCallback cb);
+    int setSarSensorChannel(int channel, void* userData, RadioRequestCallback cb);
+    int getSarSnsData(void* userData, RadioRequestCallback cb);
+    int setAolScenario(int scenario, void* userData, RadioRequestCallback cb);
+    int updateFoldScreenStatus(int state, void* userData, RadioRequestCallback cb);
+    int setImeiSvn(int svn, void* userData, RadioRequestCallback cb);
+    int setAtcTableInit(void* userData, RadioRequestCallback cb);
+    int setAtcTableDeInit(void* userData, RadioRequestCallback cb);
+    int setCarrierOmacpFqdn(const char* fqdn, void* userData, RadioRequestCallback cb);
+    int getImsUssdEnabled(void* userData, RadioRequestCallback cb);
+    int setCiwlanUiSwitch(bool enable, void* userData, RadioRequestCallback cb);
 
     /// For NR only: other radio access technologies have a vendor message. `rat` is not sent.
     int setAntForceStateByRat(int rat, int state, void* userData, RadioRequestCallback cb);
@@ -68,6 +160,16 @@ public:
 private:
     /// Sends a command whose answer carries no data.
     int sendSetter(const char* cmd, void* userData, RadioRequestCallback cb);
+
+    /// Runs such commands one after the other, up to the first that fails; returns 0. None at all succeed.
+    int sendSetters(const std::vector<std::string>& commands, void* userData, RadioRequestCallback cb);
+
+    int sendQuery(const char* cmd, void* userData, RadioRequestCallback cb,
+                  AtResponseCallback::Function interpreter);
+
+    /// Whether a caller's text may stand between the quotes of a command: it can't end them, nor the command.
+    /// Logs for `method` when it may not.
+    static bool isPlainText(const char* method, const char* text);
 
     struct Command;
     int sendCommand(const char* cmd, std::unique_ptr<Command> command);

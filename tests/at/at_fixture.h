@@ -30,6 +30,13 @@ struct AtTest : testing::Test {
     Caller caller;
     LogCapture log;
 
+    /// The modem outlives the test; what the test made of it must not.
+    ~AtTest() override
+    {
+        modem.onSend = nullptr;
+        modem.sendResult = 0;
+    }
+
     /// The oldest command on its way; empty when there is none.
     std::string command() const
     {

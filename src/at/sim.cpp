@@ -1,0 +1,69 @@
+/// The SIM card, its lock, and how several of them are served.
+#include "at/at_log.h"
+#include "at/at_text.h"
+#include "at/vorn_at_client.h"
+
+#include <algorithm>
+#include <string_view>
+
+using at::kTag;
+using mindroid::make;
+using mindroid::Parcel;
+using mindroid::sp;
+
+namespace {
+
+/// The answer's data is the IMSI alone, taken as text: it may begin with zeros.
+RADIO_APIS_RESULT onImsi(const sp<Parcel>& answer, RadioApisResultType* result)
+{
+    constexpr std::string_view kTestNetwork = "00101";
+    const bool accepted = answer->getBoolean();
+    const std::string_view imsi = accepted ? answer->getString() : std::string_view();
+    auto& card = result->rsp.simCardType;
+    const bool isImsi = !imsi.empty() && imsi.size() < sizeof card.imsi &&
+                        std::ranges::all_of(imsi, [](char c) { return c >= '0' && c <= '9'; });
+    if (!isImsi) {
+        return RADIO_APIS_FAILURE;
+    }
+    card.type = imsi.starts_with(kTestNetwork) ? 1 : 0;
+    std::ranges::copy(imsi, card.imsi);
+    return RADIO_APIS_SUCCESS;
+}
+
+RADIO_APIS_RESULT onSimCategory(const sp<Parcel>& answer, RadioApisResultType* result)
+{
+    if (!answer->getBoolean()) {
+        return RADIO_APIS_FAILURE;
+    }
+    auto& lock = result->rsp.simlockCategory;
+    const std::string_view category = answer->getString().substr(0, sizeof lock.category - 1);
+    std::ranges::copy(category, lock.category);
+    lock.length = static_cast<uint32_t>(category.size());
+    zorLogD(kTag, "simCategory: %s, len: %d", lock.category, static_cast<int>(lock.length));
+    return RADIO_APIS_SUCCESS;
+}
+
+} // namespace
+
+int VornAtClient::getSimCardType(int, void* userData, RadioRequestCallback cb)
+{
+    return sendAtCommandRspRawStr("AT+CIMI", userData, cb, make<AtResponseCallback>(onImsi));
+}
+
+int VornAtClient::getSimlockCategoryData(void* userData, RadioRequestCallback cb)
+{
+    return sendAtCommandRspRawStr("AT+ESMLRSUF?", userData, cb, make<AtResponseCallback>(onSimCategory));
+}
+
+int VornAtClient::getSimlockLockStatus(void*, RadioRequestCallback)
+{
+    zorLogE(kTag, "%s : unsupported operation, plese see Java remoteSimlockGetSimlockStatusEx instead",
+            __func__);
+    return RADIO_APIS_FAILURE;
+}
+
+int VornAtClient::setMsimSubModePref(int mode, void* userData, RadioRequestCallback cb)
+{
+    zorLogD(kTag, "%s - enter. slotId=%d mode=%d", __func__, mInstance, mode);
+    return sendSetter(AtText<128>("AT+ESBP=5,\"SBP_DSDA\",%d", mode), userData, cb);
+}

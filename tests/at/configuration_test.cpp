@@ -1,0 +1,489 @@
+#include "at_fixture.h"
+#include "host/clock.h"
+
+using namespace test;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Call = std::function<int(VornAtClient&, void*, RadioRequestCallback)>;
+using At = VornAtClient;
+using Commands = std::vector<std::string>;
+
+struct Configuration : AtTest {
+    ~Configuration() override { host::Clock::thaw(); }
+
+    int start(const Call& request)
+    {
+        caller = {};
+        return request(*client, &caller, Caller::onResult);
+    }
+};
+
+/// The commands as a chain sends them.
+Commands chained(Commands commands)
+{
+    for (std::string& command : commands) {
+        command += "\r\n";
+    }
+    return commands;
+}
+
+int ratScan(VornAtClient& client, std::vector<int> rats, void* user, RadioRequestCallback cb)
+{
+    return client.setRatScan(rats.data(), static_cast<int>(rats.size()), user, cb);
+}
+
+Call ratScan(const std::vector<int>& rats)
+{
+    return [=](VornAtClient& client, void* user, RadioRequestCallback cb) {
+        return ratScan(client, rats, user, cb);
+    };
+}
+
+RadioArrearageCfgInfo arrearage(int option)
+{
+    RadioArrearageCfgInfo info{.option = option, .enable = 7};
+    for (int i = 0; i < 21; ++i) {
+        info.a[i] = i - 1;
+    }
+    return info;
+}
+
+constexpr RadioQrxlvminCfgInfo qrxlvmin(int option, int enable = 0)
+{
+    return {enable, option, 1, -2, 3, 4, 5, 6, 7, 8, -9};
+}
+
+constexpr RadioOosCfgInfo outOfService(int option, int enable = 0)
+{
+    return {enable, option, 1, 2, 3, 4, 5, 6, 1, 2, 3, 4, 5};
+}
+
+Commands switches(std::initializer_list<const char*> names, const char* value, const char* last,
+                  const char* lastValue)
+{
+    Commands commands;
+    for (const char* name : names) {
+        commands.push_back(std::string("AT+ESBP=5,\"") + name + "\"," + value + ",1");
+    }
+    commands.push_back(std::string("AT+ESBP=5,\"") + last + "\"," + lastValue + ",1");
+    return chained(commands);
+}
+
+Commands searchLte(const char* search, const char* ignore)
+{
+    Commands commands = switches(
+        {"SBP_BG_SEARCH_3G4_FDD", "SBP_BG_SEARCH_3G4_TDD", "SBP_BG_SEARCH_2G4_FDD", "SBP_BG_SEARCH_2G4_TDD"},
+        search, "SBP_IGNORE_W_SIB19_NBR_FREQ_BG_SEARCH_3G4", ignore);
+    commands.push_back(switches({}, "", "SBP_GAS_IGNORE_LTE_NBR_FREQ_FOR_LTE_BG_SRCH", ignore).front());
+    return commands;
+}
+
+Commands searchNr(const char* search, const char* ignore)
+{
+    return switches({"SBP_BG_SEARCH_4G5", "SBP_BG_SEARCH_3G5_FDD", "SBP_BG_SEARCH_3G5_TDD",
+                     "SBP_BG_SEARCH_2G5_FDD", "SBP_BG_SEARCH_2G5_TDD"},
+                    search, "SBP_IGNORE_L_SIB24_NBR_FREQ_BG_SEARCH_4G5", ignore);
+}
+
+const std::string kLong(300, 'x');
+
+const std::vector<std::pair<Call, Commands>>& settings()
+{
+    const auto power = [](int group) {
+        return call(&At::setPowerSavingState, UAIINFO{group, 600, -1, 2, 3, 4, 5, 8, 9, 10});
+    };
+    const auto lock = [](int type, int mode) {
+        return call(&At::lockCellAndBand, RadioLockCellInfoType{type, 1, 627264, 101, mode});
+    };
+    static const std::vector<std::pair<Call, Commands>> rows = {
+        {call(&At::setServiceMode, 2), chained({"AT+CFUN=0", "AT+CEMODE=2", "AT+CFUN=1"})},
+        {call(&At::setCentricMode, -1), chained({"AT+CFUN=0", "AT+CEUS=-1", "AT+CFUN=1"})},
+        {call(&At::requireModemReboot), {"AT+CFUN=1,1"}},
+        {power(1), chained({R"(AT+ESBP=5,"SBP_R16_WUS",-1)", R"(AT+ESBP=5,"SBP_NR_MIMO_LAYER_REDUCTION",2)",
+                            R"(AT+ESBP=5,"SBP_ENHANCED_SKIP_UPLINK_TX_DYNAMIC",3)",
+                            R"(AT+ESBP=5,"SBP_NR_RELEASE_PREFERENCE_ASSISTANCE_INFO",4)",
+                            R"(AT+ESBP=5,"SBP_NR_REL16_UAI_POWER_SAVING",5)"})},
+        {power(2),
+         chained({R"(AT+ESBP=5,"SBP_ENABLE_MODEM_IVSR",-1)", R"(AT+ESBP=5,"SBP_R13_DOS_ENHANCE",2)"})},
+        {power(3), {R"(AT+ESBP=5,"SBP_CUSTOM_QRXLEVMIN_ADJ_NR",-1)"}},
+        {power(4), {R"(AT+ESBP=5,"SBP_GMSS_NO_SIM_SKIP_LTE_NR_SEARCH",-1)"}},
+        {power(5), {R"(AT+ESBP=6,"SBP_SAF_ASSISTANT_LOW_POWER_CONTROL",-1)"}},
+        {call(&At::updateDcdcSleepState, 1), {R"(AT+EGMC=1,"etm_set_hfp_fpwm",3,1)"}},
+        {call(&At::updateDcdcSleepState, 6), {R"(AT+EGMC=1,"etm_set_hfp_fpwm",2,1)"}},
+        {call(&At::updateDcdcSleepState, 15),
+         chained({R"(AT+EGMC=1,"etm_function_cmd",2,65535)", R"(AT+EGMC=1,"etm_set_hfp_fpwm",1)"})},
+        {call(&At::updateDcdcSleepState, 12), chained({R"(AT+EGMC=1,"etm_set_hfp_fpwm",0)"})},
+        {call(&At::updateDcdcSleepState, 10), chained({R"(AT+EGMC=1,"etm_function_cmd",3,65535)"})},
+        {call(&At::sendFastDormancy), {"AT+ESCRI"}},
+        {call(&At::setPSConformanceMode, 1, -2), {"AT+EPCT=1,-2"}},
+        {call(&At::setMsimSubModePref, 2), {R"(AT+ESBP=5,"SBP_DSDA",2)"}},
+        {call(&At::setBackgroundSearch, 1, false, true), searchLte("1", "0")},
+        {call(&At::setBackgroundSearch, 1, false, false), searchLte("0", "0")},
+        {call(&At::setBackgroundSearch, 1, true, true), searchLte("1", "1")},
+        {call(&At::setBackgroundSearch, 0, false, true), searchNr("1", "0")},
+        {call(&At::setBackgroundSearch, 0, false, false), searchNr("0", "0")},
+        {call(&At::setBackgroundSearch, 0, true, true), searchNr("1", "1")},
+        {call(&At::setOosCfg, outOfService(1)), {"AT+ERSCFG=1,1,2,2,2,2,3,3,3,3,3,3,4,4,4,4,4,4,4,5,5,5,5"}},
+        {call(&At::setOosCfg, outOfService(2)), {"AT+ESRVREC=1,2,3,,5,6"}},
+        {call(&At::setOosCfg, outOfService(3, 9)),
+         {R"(AT+ESBP=5,"SBP_INACTIVE_MODE_SERVICE_RECOVERY_GMSS_CONTROL",1)"}},
+        {call(&At::setOosCfg, outOfService(3)),
+         {R"(AT+ESBP=5,"SBP_INACTIVE_MODE_SERVICE_RECOVERY_GMSS_CONTROL",0)"}},
+        {call(&At::setOosCfg, outOfService(4, -1)), {R"(AT+ESBP=5,"SBP_INACTIVE_MODE_SERVICE_RECOVERY",1)"}},
+        {call(&At::setOosCfg, outOfService(4)), {R"(AT+ESBP=5,"SBP_INACTIVE_MODE_SERVICE_RECOVERY",0)"}},
+        {call(&At::setOosCfg, outOfService(5)), {"AT+ESRVREC=,,,4"}},
+        {call(&At::clearStoredFrequency, 3),
+         chained({R"(AT+EGCMD=6,0,"RRM_CLEAN_SCSI")", R"(AT+EGCMD=6,0,"ERRC_CLEAR_STORED_INFO")",
+                  "AT+EPLMNFREQ=0,4", "AT+EPLMNFREQ=0,128"})},
+        {ratScan({4, 1, 0}), {"AT+EPRATL=4,4,128,2,1"}},
+        {ratScan({4, 5, 1, 0}), {"AT+EPRATL=4,4,128,2,1"}},
+        {ratScan({5, 4, 1, 0}), {"AT+EPRATL=4,128,4,2,1"}},
+        {call(&At::performRetHighRat, 4, 1), {"AT+ERETLTE"}},
+        {call(&At::performRetHighRat, 5, 1), {"AT+ERETNR"}},
+        {call(&At::setRedirectOptSetting, 1, 2, 3, 4, 5, 6),
+         {R"(AT+ESBP=5,"SBP_CONTINUOUS_4G5_REDIRECTION_FAILURE",1)"}},
+        {call(&At::setAttachPriority, 1, 2, 3, 4, 5),
+         {R"(AT+ESBP = 5,"SBP_MODIFY_NON_DATA_SIM_GMM_ATTACH_PRIORITY_TO_LOW_MSPM_PRIORITY",1)"}},
+        {call(&At::setAntForceStateByRat, 4, 1), {R"(AT+EGMC = 1,"NrTas_onoff",1)"}},
+        {call(&At::setQrxlvminCfg, qrxlvmin(11)), {R"(AT+EGMC=1,"customize_q_rxlv_min",1,1,-2,3)"}},
+        {call(&At::setQrxlvminCfg, qrxlvmin(12)), {R"(AT+EGMC=1,"EGMC_NRRC_CAMP_ON_CRITERIA",4,5,6,7,8,-9)"}},
+        {call(&At::setQrxlvminCfg, qrxlvmin(13, -1)), {R"(AT+ESBP=5,"SBP_CUSTOM_QRXLEVL_QQUAL",1)"}},
+        {call(&At::setQrxlvminCfg, qrxlvmin(14)), {R"(AT+ESBP=5,"SBP_NRRC_CAMP_ON_CRITERIA",0)"}},
+        {call(&At::setArrearageCfg, arrearage(11)), {R"(AT+EDMFAPP=20000,100,"11")"}},
+        {call(&At::setArrearageCfg, arrearage(12)), {R"(AT+EDMFAPP=20000,100,"12")"}},
+        {call(&At::setArrearageCfg, arrearage(13)),
+         {R"(AT+EDMFAPP=20000,100,"13,-1,0,1,2,3,4,5,6,7,8,9,10,11,12,13")"}},
+        {call(&At::setArrearageCfg, arrearage(14)), {R"(AT+EDMFAPP=20000,100,"14,4,5,6,7,8,9,10,11,12")"}},
+        {call(&At::setArrearageCfg, arrearage(15)), {R"(AT+EDMFAPP=20000,100,"15")"}},
+        {call(&At::setArrearageCfg, arrearage(16)), {R"(AT+EDMFAPP=20000,100,"16")"}},
+        {call(&At::setArrearageCfg, arrearage(17)), {R"(AT+EDMFAPP=20000,100,"17,14,15,16,17,18,19")"}},
+        {call(&At::setArrearageCfg, arrearage(18)), {R"(AT+ESBP=5,"SBP_SIM_ARREARAGE_MECHANISM_ENABLE",1)"}},
+        {lock(0, 1), {"AT+EMMCHLCK=1,0,1,627264,101,0"}},
+        {lock(3, 2), {"AT+EMMCHLCK=1,3,1,627264,101,3"}},
+        {lock(4, 0), {"AT+EMMCHLCK=1,4,1,627264,101"}},
+        {lock(5, 3), {"AT+EMMCHLCK=1,5,1,627264,101"}},
+        {call(&At::unlockCellAndBand, 7), {"AT+EMMCHLCK=0"}},
+        {call(&At::enableCellBarring, uint8_t{255}),
+         {R"(AT+ESBP=5,"SBP_ENABLE_CELL_BARRING_FOR_ALL_RLF",255)"}},
+        {call(&At::setPingpongBarSetting, 0, 1, 2, 3, 4),
+         chained({R"(AT+ESBP=5,"SBP_ENABLE_PINGPONG_BAR_LTE",0)",
+                  R"(AT+ESBP=5,"SBP_ENABLE_PINGPONG_BAR_NR",0)"})},
+        {call(&At::setPingpongBarSetting, 2, 1, 2, 3, 4),
+         chained({R"(AT+EGMC=1,"irat_ping_pong_bar_setting",1,2,3)",
+                  R"(AT+ESBP=5,"SBP_ENABLE_PINGPONG_BAR_LTE",0)",
+                  R"(AT+ESBP=5,"SBP_ENABLE_PINGPONG_BAR_NR",1)"})},
+        {call(&At::setCaStatus, 4, true), {"AT+ECASW=1"}},
+        {call(&At::setCaStatus, 4, false), {"AT+ECASW=0"}},
+        {call(&At::setCaStatus, 5, true), {R"(AT+ESBP=5,"SBP_NR_CA",1)"}},
+        {call(&At::setCaStatus, 5, false), {R"(AT+ESBP=5,"SBP_NR_CA",0)"}},
+        {call(&At::setNrcaConfig, uint8_t{255}, uint8_t{9}), {R"(AT+ESBP=5,"SBP_NR_CA",255)"}},
+        {call(&At::setBwpConfig, uint8_t{1}, uint8_t{9}), {R"(AT+ESBP=5,"SBP_NR_BWP_SWITCH",1)"}},
+        {call(&At::setWhiteSANRCAConfig, "n78A,n1"), {R"(AT+ECACOMB=1,4,"n78A,n1",1)"}},
+        {call(&At::setBlackSANRCAConfig, "a%s"), {R"(AT+ECACOMB=1,5,"a%s",1)"}},
+        {call(&At::setWhiteNSANRCAConfig, ""), {R"(AT+ECACOMB=1,2,"",1)"}},
+        {call(&At::setWhiteNSANRCAConfig, kLong.c_str()), {R"(AT+ECACOMB=1,2,")" + std::string(239, 'x')}},
+        {call(&At::resetSANSAWhiteList, 4), {R"(AT+ECACOMB=1,4,"reset",1)"}},
+        {call(&At::setDssConfig, 2), {R"(AT+ESBP=5,"SBP_UE_CAP_DSS_PLMN_SUPPORTED_BAND_TABLE",2)"}},
+        {call(&At::setDssAdditionalConfig, 2), {R"(AT+ESBP=5,"SBP_UE_CAP_DSS_ADDITIONAL_CTRL",2)"}},
+        {call(&At::setUst5gUCBandConfig, "1,3", "78"), {R"(AT+E5GUC=2,,"1,3","78",,)"}},
+        {call(&At::connectSarSensor), {"AT+ESARSEN=0,0"}},
+        {call(&At::disconnectSarSensor), {"AT+ESARSEN=0,1"}},
+        {call(&At::setSarSensorChannel, 3), {"AT+ESARSIDX=0,3"}},
+        {call(&At::setAolScenario, 4), {"AT+ERFIDX=0,4"}},
+        {call(&At::updateFoldScreenStatus, 1), {R"(AT+EDMFAPP=20000,204,"1")"}},
+        {call(&At::setImeiSvn, 10), {R"(AT+EGMR=1,9,"0a")"}},
+        {call(&At::setAtcTableInit), {R"(AT+EGMC=1,"RF_EM_Init")"}},
+        {call(&At::setAtcTableDeInit), {R"(AT+EGMC=1,"RF_EM_DeInit")"}},
+        {call(&At::setCarrierOmacpFqdn, "epdg.example"), {R"(AT+EPVSSET="epdg_identifier","epdg.example")"}},
+        {call(&At::setCiwlanUiSwitch, false), {"AT+EVODATA=0,0,0,0"}},
+    };
+    return rows;
+}
+
+} // namespace
+
+TEST_F(Configuration, SendsSettings)
+{
+    for (const auto& [request, commands] : settings()) {
+        for (const bool fails : {false, true}) {
+            SCOPED_TRACE(commands.front());
+            ASSERT_EQ(start(request), 0);
+            for (const std::string& sent : commands) {
+                EXPECT_EQ(caller.calls, 0);
+                ASSERT_EQ(command(), sent);
+                modem.answer(answer(fails && &sent == &commands.back() ? "\r\nERROR\r\n" : "\r\nOK\r\n"));
+            }
+            EXPECT_EQ(caller.calls, 1);
+            EXPECT_EQ(caller.result, fails ? 1 : 0);
+            EXPECT_TRUE(allZero(caller.record));
+            ASSERT_TRUE(modem.sent.empty());
+        }
+    }
+    for (
+        const char* line : {
+            "setServiceMode: ENTER: 2",
+            "setServiceMode: ENTER: cmd AT+CEMODE=2",
+            "setCentricMode: ENTER: -1",
+            "setCentricMode: ENTER: cmd AT+CEUS=-1",
+            "sendFastDormancy - enter. slotId=1",
+            "setPowerSavingState - enter. setPowerSavingState type=600 op=-1 dl=2 ul=3 delay=4 "
+            "cnt=5,cgType=1",
+            "VornAtClient::updateDcdcSleepState state=12",
+            "VornAtClient::updateDcdcSleepState is_sleep=0  is_rx_follow_tx=0 is_100k=1 is_rq4120=1 ",
+            "setMsimSubModePref - enter. slotId=1 mode=2",
+            "setBackgroundSearch: setBackgroundSearch ENTER",
+            "setOosCfg: ENTER",
+            "setOosCfg: option=3, enable=9",
+            "setOosCfg: result: 0",
+            "setOosCfg: nwsel_oos_cfg_strcmd: AT+ERSCFG=1,1,2,2,2,2,3,3,3,3,3,3,4,4,4,4,4,4,4,5,5,5,5",
+            "setOosCfg: nwsel_gmss_oos_strcmd: AT+ESRVREC=1,2,3,,5,6",
+            "clearStoredFrequency: ENTER: 3",
+            "setQrxlvminCfg: ENTER",
+            "setQrxlvminCfg: result: 0",
+            "setArrearageCfg: ENTER",
+            R"(setQrxlvminCfg: ENTER: lte_qrxlvmin_cfg_strcmd AT+EGMC=1,"customize_q_rxlv_min",1,1,-2,3)",
+            R"(setQrxlvminCfg: ENTER: nr_qrxlvmin_cfg_strcmd AT+EGMC=1,"EGMC_NRRC_CAMP_ON_CRITERIA",4,5,6,7,8,-9)",
+            R"(setArrearageCfg: ENTER: arrearage_at_strcmd: AT+EDMFAPP=20000,100,"11")",
+            "setArrearageCfg: result: 0",
+            "VornAtClient::setPingpongBarSetting type=2,barTime=1,period=2,hitCnt=3,reserve=4",
+            "VornAtClient setCiwlanUiSwitch enable=0",
+        }) {
+        EXPECT_TRUE(log.has(std::string("D VornAtClient: ") + line)) << line;
+    }
+}
+
+TEST_F(Configuration, RefusesBadArguments)
+{
+    const auto lock = [](int type, int band) {
+        return call(&At::lockCellAndBand, RadioLockCellInfoType{type, band, 1, 2, 0});
+    };
+    const auto noRats = [](At& at, void* user, RadioRequestCallback cb) {
+        return at.setRatScan(nullptr, 4, user, cb);
+    };
+    const std::string order = "setRatScan: unknown order, count:";
+    const std::string text = ": the text is missing, or holds a control character or a double quote";
+    const std::string javaLine = " : unsupported operation, plese see Java ";
+    const std::pair<Call, std::string> rows[] = {
+        {call(&At::setPowerSavingState, UAIINFO{.cgType = 6}), "setPowerSavingState: invalid cgType: 6"},
+        {call(&At::updateDcdcSleepState, 8),
+         "Invalid state for RQ4120: both is_rx_follow_tx and is_100k are false"},
+        {call(&At::setBackgroundSearch, 2, true, true), "unknown rat!"},
+        {call(&At::setOosCfg, outOfService(6)), "setOosCfg: invalid option: 6"},
+        {call(&At::setQrxlvminCfg, qrxlvmin(10)), "setQrxlvminCfg: invalid option: 10"},
+        {call(&At::getQrxlvminCfg, 5), "getQrxlvminCfg: unknown rat, rat:5"},
+        {call(&At::setArrearageCfg, arrearage(10)), "setArrearageCfg: invalid option: 10"},
+        {call(&At::setArrearageCfg, arrearage(19)), "setArrearageCfg: result: 1"},
+        {noRats, order + "4"},
+        {ratScan({}), order + "0"},
+        {ratScan({5, 4, 1}), order + "3"},
+        {ratScan({4, 5}), order + "2"},
+        {ratScan({1, 4, 5, 0}), order + "4"},
+        {call(&At::performRetHighRat, 3, 0), "performRetHighRat: unknown rat, rat:3"},
+        {call(&At::setCaStatus, 3, true), "setCaStatus: unknown rat, rat:3"},
+        {call(&At::getCaStatus, 6), "getCaStatus: unknown rat, rat:6"},
+        {lock(1, 0), "lockCellAndBand: invalid lock type 1 or band indicator 0"},
+        {lock(6, 0), "lockCellAndBand: invalid lock type 6 or band indicator 0"},
+        {lock(-1, 0), "lockCellAndBand: invalid lock type -1 or band indicator 0"},
+        {lock(3, 2), "lockCellAndBand: invalid lock type 3 or band indicator 2"},
+        {lock(3, -1), "lockCellAndBand: invalid lock type 3 or band indicator -1"},
+        {call(&At::setPingpongBarSetting, 4, 1, 2, 3, 4), "setPingpongBarSetting: invalid type: 4"},
+        {call(&At::setPingpongBarSetting, -1, 1, 2, 3, 4), "setPingpongBarSetting: invalid type: -1"},
+        {call(&At::setCarrierOmacpFqdn, static_cast<const char*>(nullptr)), "setCarrierOmacpFqdn" + text},
+        {call(&At::setWhiteSANRCAConfig, "a\"b"), "setWhiteSANRCAConfig" + text},
+        {call(&At::setBlackSANRCAConfig, "a\r\nAT"), "setBlackSANRCAConfig" + text},
+        {call(&At::setWhiteNSANRCAConfig, "\x7F"), "setWhiteNSANRCAConfig" + text},
+        {call(&At::setUst5gUCBandConfig, "1", "\""), "setUst5gUCBandConfig" + text},
+        {call(&At::setUst5gUCConfig, uint8_t{1}, uint8_t{2}, uint8_t{3}),
+         "setUst5gUCConfig" + javaLine + "setUst5gUCConfig instead"},
+        {call(&At::getSimlockLockStatus),
+         "getSimlockLockStatus" + javaLine + "remoteSimlockGetSimlockStatusEx instead"},
+    };
+    for (const auto& [request, line] : rows) {
+        EXPECT_EQ(start(request), 1) << line;
+        EXPECT_TRUE(log.has("E VornAtClient: " + line)) << line;
+        EXPECT_TRUE(modem.sent.empty()) << line;
+    }
+    EXPECT_EQ(start(call(&At::setBackgroundSearch, 1, true, false)), 0); // nothing to do
+    drainTimer();
+    EXPECT_TRUE(modem.sent.empty());
+    EXPECT_EQ(caller.calls, 1);
+    EXPECT_EQ(caller.result, 0);
+}
+
+TEST_F(Configuration, InterpretsAnswers)
+{
+    using Check = std::function<void(const Rsp&)>;
+    const struct {
+        Call request;
+        std::string command;
+        std::string data; ///< of a good answer
+        Check check;
+        int ofWord; ///< result when the data is a word; the record is then zero
+        int ofNone; ///< result of an accepted answer without data
+        std::string line = {};
+    } rows[] = {
+        {call(&At::getServiceMode), "AT+CEMODE?", "+CEMODE: 3,1", holds({3}), 1, 1,
+         "getServiceMode : result->rsp.serviceModeInfo.serviceMode : 3"},
+        {call(&At::getCentricMode), "AT+CEUS?", "+CEUS: -1", holds({255, 255, 255, 255}), 1, 1,
+         "getCentricMode : result->rsp.centricModeInfo.centricMode : -1"},
+        {call(&At::getOperationMode), "AT+CFUN?", "+CFUN: 4", holds({0, 0, 0, 0, 4}), 1, 1, "cfun mode=4"},
+        {call(&At::getNrcaConfig), R"(AT+ESBP=7,"SBP_NR_CA")", "+ESBP: 257", holds({1}), 0, 1,
+         "VornAtClient::getNrcaConfig nrcaState=1"},
+        {call(&At::readNRCAConfig), R"(AT+ESBP=7,"SBP_NR_CA")", "+ESBP: 2,1", holds({2}), 0, 1,
+         "VornAtClient::readNRCAConfig len=2"},
+        {call(&At::getBwpConfig), R"(AT+ESBP=7,"SBP_NR_BWP_SWITCH")", "+ESBP: 1", holds({1}), 0, 1,
+         "VornAtClient::getBwpConfig bwpState=1"},
+        {call(&At::getCaStatus, 4), "AT+ECASW?", "+ECASW: 256", holds({0, 1}), 0, 1,
+         "VornAtClient::getCaStatus caStatus=256"},
+        {call(&At::getCaStatus, 5), R"(AT+ESBP=7,"SBP_NR_CA")", "+ESBP: 1", holds({1}), 0, 1},
+        {call(&At::readDssConfig), R"(AT+ESBP=7,"SBP_UE_CAP_DSS_PLMN_SUPPORTED_BAND_TABLE")", "+ESBP: 7",
+         holds({7}), 0, 1, "VornAtClient::readDssConfig type=1"},
+        {call(&At::getImsUssdEnabled), R"(AT+ECFGGET="ussd_support")", "+ECFGGET: 1", holds({1}), 0, 1,
+         "getImsUssdEnabled: ENTER"},
+        {call(&At::getSarSnsData), "AT+ERFIDX?", "+ERFIDX: 1,2,x,3", holds({2, 0, 0, 0, 1, 0, 0, 0, 2}), 0,
+         1},
+        {call(&At::queryFastDormancyMode), "AT+EPCT?", "+EPCT: 5", holds({1, 0, 0, 0, 5}), 0, 0},
+        {call(&At::queryLegacyFastDormancyMode), R"(AT+ESBP=7,"SBP_DISABLE_PRE_R8_FD_SCRI")",
+         "+ESBP: 1,2,3,4,5,6,7,8,9", holds({8, 0, 0, 0, 1, 0, 0, 0, 2, 0, 0, 0, 3, 0, 0, 0, 4,
+                                            0, 0, 0, 5, 0, 0, 0, 6, 0, 0, 0, 7, 0, 0, 0, 8}),
+         0, 0},
+        {call(&At::getQrxlvminCfg, 13), R"(AT+EGMC=0,"customize_q_rxlv_min")",
+         R"(+EGMC: "customize_q_rxlv_min",1,2, 3,-1)",
+         holds({13, 0, 0, 0, 2, 0, 0, 0, 3, 0, 0, 0, 255, 255, 255, 255}), 1, 1,
+         "getQrxlvminCfg: lte qrxlvminRsp rat:13, is: 2,3,-1"},
+        {call(&At::getQrxlvminCfg, 20), R"(AT+EGMC=0,"EGMC_NRRC_CAMP_ON_CRITERIA")",
+         R"(+EGMC: "EGMC_NRRC_CAMP_ON_CRITERIA",1,2,3,4,5,6)",
+         holds({20, 0, 0, 0, 1, 0, 0, 0, 2, 0, 0, 0, 3, 0, 0, 0, 4, 0, 0, 0, 5, 0, 0, 0, 6}), 1, 1,
+         "getQrxlvminCfg : qrxlvminRsp nr rat:20, is: 1,2,3,4,5,6"},
+        {call(&At::getSimCardType, 0), "AT+CIMI", "001010123456789",
+         [](const Rsp& rsp) {
+             EXPECT_EQ(rsp.simCardType.type, 1);
+             EXPECT_STREQ(rsp.simCardType.imsi, "001010123456789");
+         },
+         1, 1},
+        {call(&At::getSimCardType, 0), "AT+CIMI", "310150",
+         [](const Rsp& rsp) { EXPECT_EQ(rsp.simCardType.type, 0); }, 1, 1},
+        {call(&At::getSimlockCategoryData), "AT+ESMLRSUF?", "+ESMLRSUF: 0,1,\"a\"",
+         [](const Rsp& rsp) { EXPECT_STREQ(rsp.simlockCategory.category, "0,1,\"a\""); }, -1, 1,
+         "simCategory: 0,1,\"a\", len: 7"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.command + " " + row.data);
+        const auto ask = [&](const Fields& fields, int result) {
+            ASSERT_EQ(start(row.request), 0);
+            EXPECT_EQ(command(), row.command);
+            modem.answer(fields);
+            EXPECT_EQ(caller.calls, 1);
+            EXPECT_EQ(caller.result, result);
+            EXPECT_TRUE(caller.hadRecord);
+        };
+        ask(answer(("\r\n" + row.data + "\r\n\r\nOK\r\n").c_str()), 0);
+        row.check(caller.record.rsp);
+        EXPECT_TRUE(row.line.empty() || log.has("D VornAtClient: " + row.line)) << row.line;
+        const std::pair<Fields, int> others[] = {{answer("\r\n+X: word\r\n\r\nOK\r\n"), row.ofWord},
+                                                 {answer("\r\nOK\r\n"), row.ofNone},
+                                                 {answer("\r\n+CME ERROR: 3\r\n"), 1},
+                                                 {{result(0)}, 1}};
+        for (const auto& [fields, code] : others) {
+            if (code != -1) {
+                ask(fields, code);
+                EXPECT_TRUE(allZero(caller.record));
+            }
+        }
+    }
+    const std::pair<int, const char*> malformed[] = {{13, "+EGMC: a,1,2,3"},
+                                                     {13, "+EGMC: a,1,2,3,4,5"},
+                                                     {13, "+EGMC: a,1,2,x,4"},
+                                                     {20, "+EGMC: a,1,2,3,4,5"}};
+    for (const auto& [rat, data] : malformed) {
+        ASSERT_EQ(start(call(&At::getQrxlvminCfg, rat)), 0);
+        modem.answer(answer((std::string("\r\n") + data + "\r\n\r\nOK\r\n").c_str()));
+        EXPECT_EQ(caller.result, 1) << data;
+        EXPECT_TRUE(allZero(caller.record)) << data;
+    }
+    EXPECT_EQ(log.count("E VornAtClient: invalid param lte, split error!"), 3); // and once a single word
+    EXPECT_TRUE(log.has("E VornAtClient: invalid param nr, split error!"));
+    ASSERT_EQ(start(call(&At::getSimlockCategoryData)), 0);
+    modem.answer(answer(("\r\n+X: " + std::string(2000, 'c') + "\r\n\r\nOK\r\n").c_str()));
+    EXPECT_EQ(caller.record.rsp.simlockCategory.length, 1023u);
+}
+
+TEST_F(Configuration, TellsOnlyOfTheSecondOfTwoCommands)
+{
+    ASSERT_EQ(start(call(&At::setCiwlanUiSwitch, true)), 0);
+    ASSERT_EQ(modem.sent.size(), 2u);
+    EXPECT_EQ(command(), "AT+EWFCP=1");
+    modem.answer(answer("\r\nERROR\r\n"));
+    EXPECT_EQ(caller.calls, 0);
+    EXPECT_EQ(command(), "AT+EVODATA=1,0,0,1");
+    modem.answer(answer("\r\nOK\r\n"));
+    EXPECT_EQ(caller.calls, 1);
+    EXPECT_EQ(caller.result, 0);
+}
+
+TEST_F(Configuration, LooksTwiceForTheOperationMode)
+{
+    const Fields ok = answer("\r\nOK\r\n");
+    const Fields error = answer("\r\nERROR\r\n");
+    const Fields on = answer("\r\n+EFUN: x,3\r\n\r\nOK\r\n");
+    const Fields off = answer("\r\n+EFUN: 0\r\n\r\nOK\r\n");
+    const Fields noText = {result(0)};
+    const struct {
+        int mode;
+        std::vector<Fields> answers; ///< of AT+EFUN=, and of each look, 500 ms after the one before
+        int result;
+    } rows[] = {
+        {4, {ok, on}, 0},      {12, {ok, on}, 0},        {5, {ok, off}, 0},         {0, {ok, off}, 0},
+        {4, {ok, off, on}, 0}, {4, {ok, off, off}, 1},   {0, {ok, on, on}, 1},      {4, {error}, 1},
+        {4, {noText}, 1},      {4, {{result(7)}}, 1},    {4, {ok, error}, 1},       {4, {ok, ok}, 1},
+        {4, {ok, noText}, 1},  {4, {ok, off, error}, 1}, {4, {ok, off, noText}, 1},
+    };
+    host::Clock::freeze();
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::Message() << "row " << &row - rows);
+        ASSERT_EQ(start(call(&At::setOperationMode, static_cast<RADIO_OPERATION_MODE_TYPE>(row.mode))), 0);
+        EXPECT_EQ(command(), (row.mode & 7) == 4 ? "AT+EFUN=3" : "AT+EFUN=0");
+        for (const Fields& fields : row.answers) {
+            EXPECT_EQ(caller.calls, 0);
+            ASSERT_EQ(modem.sent.size(), 1u);
+            modem.answer(fields);
+            if (&fields != &row.answers.back()) {
+                host::Clock::advance(499ms);
+                drainTimer();
+                EXPECT_TRUE(modem.sent.empty());
+                host::Clock::advance(1ms);
+                drainTimer();
+                EXPECT_EQ(command(), "AT+EFUN?");
+            }
+        }
+        host::Clock::advance(2s);
+        drainTimer();
+        EXPECT_EQ(caller.calls, 1);
+        EXPECT_EQ(caller.result, row.result);
+        EXPECT_TRUE(caller.hadRecord && allZero(caller.record));
+    }
+    // A send that is refused, at first or while the timer runs, ends the same way.
+    for (const bool atOnce : {true, false}) {
+        modem.sendResult = atOnce ? -1 : 0;
+        ASSERT_EQ(start(call(&At::setOperationMode, RADIO_OPERATION_MODE_ONLINE)), 0);
+        if (!atOnce) {
+            modem.answer(ok);
+            modem.sendResult = -1;
+            host::Clock::advance(500ms);
+            drainTimer();
+        }
+        drainTimer();
+        EXPECT_EQ(caller.calls, 1);
+        EXPECT_EQ(caller.result, 1);
+        modem.sendResult = 0;
+    }
+    EXPECT_TRUE(log.has("D VornAtClient: setOperationMode: mode=12"));
+    EXPECT_TRUE(log.has("D VornAtClient: query efun callback: efun=3,  p->len=2"));
+    EXPECT_TRUE(log.has("D VornAtClient: unexpected type"));
+    EXPECT_TRUE(log.has("D VornAtClient: curMode=3"));
+    EXPECT_TRUE(log.has("D VornAtClient: getBoolean: false"));
+    EXPECT_TRUE(
+        log.has("E VornAtClient: setOperationMode: processRadioException: radio exception with error no 1"));
+}
