@@ -127,6 +127,30 @@ AtReply testFunctionality(const AtCall&)
     return {AtResult::Ok, {"+CFUN: (0,1,4),(0-1)"}};
 }
 
+/// What the query may tell by now.
+std::string queryableMode(const Slot& slot)
+{
+    return slot.now < slot.modeKnownFrom ? slot.modeBefore : atValue(slot, "+EFUN");
+}
+
+/// +EFUN=<fun>: 0 off, 1 to 3 on for some or all slots. It takes the modem its time.
+AtReply setSlotsOn(const AtCall& call)
+{
+    Slot& slot = call.slot;
+    const std::string before = queryableMode(slot);
+    const AtReply reply = setStored(call);
+    if (reply.result == AtResult::Ok) {
+        slot.modeBefore = before;
+        slot.modeKnownFrom = slot.now + slot.modeChangeTime;
+    }
+    return reply;
+}
+
+AtReply querySlotsOn(const AtCall& call)
+{
+    return {AtResult::Ok, {"+EFUN: " + queryableMode(call.slot)}};
+}
+
 AtReply getImsi(const AtCall& call)
 {
     return call.slot.card.present ? AtReply{AtResult::Ok, {call.slot.card.imsi}}
@@ -153,6 +177,7 @@ constexpr AtCommand kCommands[] = {
      .test = testFunctionality,
      .rules = kFunctionality,
      .initial = "1"},
+    {.name = "+EFUN", .set = setSlotsOn, .query = querySlotsOn, .rules = kOperationMode, .initial = "3"},
     {.name = "+CEMODE",
      .set = setStored,
      .query = queryStored,

@@ -79,6 +79,7 @@ void Modem::State::receive(ClientId client, const vorn_msg_t& request, TimePoint
     if (fault && fault->action == FaultAction::Result) {
         answer.result = static_cast<ModemResult>(fault->result);
     } else {
+        mSlots.at(static_cast<size_t>(*slot)).now = now;
         answer = carryOut(mSlots.at(static_cast<size_t>(*slot)), {*checked.spec, checked.fields, mSlots},
                           due.consequences);
         if (checked.spec->id == kWriteNv && answer.result == ModemResult::Success && !saveNv()) {

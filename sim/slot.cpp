@@ -9,6 +9,7 @@ namespace {
 
 constexpr size_t kMaxNeighbours = 128;
 constexpr size_t kMaxListed = 4096;
+constexpr uint32_t kMaxModeChange = 60'000; // milliseconds
 
 /// Settings of a scenario are requests that are carried out before anything else.
 void applySettings(const JsonNode& node, StoredSettings& settings)
@@ -37,7 +38,7 @@ void applyAtCommands(const JsonNode& node, Slot& slot)
 
 bool Slot::radioOn() const
 {
-    return atValue(*this, "+CFUN") == "1";
+    return atValue(*this, "+CFUN") == "1" && atValue(*this, "+EFUN") != "0";
 }
 
 const Cell* Slot::camped() const
@@ -84,6 +85,8 @@ Slot slotFromJson(JsonNode node, int number)
         slot.neighbours.push_back(neighbourFromJson(cell));
     }
     slot.nv = nvItemsFromJson(node.member("nv"));
+    slot.modeChangeTime =
+        std::chrono::milliseconds(node.member("modeChangeMs").number<uint32_t>(0, kMaxModeChange));
     applySettings(node.member("settings"), slot.settings);
     applyAtCommands(node.member("at"), slot);
     node.finish();

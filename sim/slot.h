@@ -8,6 +8,7 @@
 #include "stored_settings.h"
 
 #include <array>
+#include <chrono>
 #include <map>
 #include <optional>
 #include <string>
@@ -32,6 +33,11 @@ struct Slot {
     StoredSettings settings;
     AtValues at;
     Bands bands = supportedBands();
+    std::chrono::steady_clock::time_point now; ///< when the request came that is being carried out
+    std::chrono::milliseconds modeChangeTime{
+        0}; ///< how long AT+EFUN? still tells the mode before the last AT+EFUN=
+    std::string modeBefore;
+    std::chrono::steady_clock::time_point modeKnownFrom;
     std::map<uint16_t, uint32_t> indicationsSent; ///< how often, by message id
     uint32_t metricsReadings = 0;
     uint32_t previousMcc = 0; ///< of the network it was registered in before; 0: none

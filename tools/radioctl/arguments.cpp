@@ -76,6 +76,18 @@ std::vector<uint8_t> parseBytes(std::string_view where, const std::string& word,
     return *bytes;
 }
 
+Argument text(const std::string& name, std::string help, size_t most)
+{
+    const auto parse = [=](std::span<const std::string> words) -> std::any {
+        if (words.front().size() > most) {
+            throw UsageError(
+                fmt::format("{}: {} characters, at most {} are allowed", name, words.front().size(), most));
+        }
+        return words.front();
+    };
+    return {name, std::move(help), fmt::format("text of at most {} characters", most), parse};
+}
+
 Argument flag(const std::string& name, std::string help)
 {
     const auto parse = [=](std::span<const std::string> words) -> std::any {

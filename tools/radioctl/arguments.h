@@ -13,6 +13,8 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace radioctl {
@@ -83,6 +85,43 @@ Argument number(const std::string& name, std::string help, T lowest = std::numer
         return parseNumber<T>(name, words.front(), lowest, highest);
     };
     return {name, std::move(help), rangeText(lowest, highest), parse};
+}
+
+/// A std::string.
+Argument text(const std::string& name, std::string help, size_t most);
+
+/// The names of values.
+template <typename T>
+using Names = std::vector<std::pair<std::string, T>>;
+
+template <typename T>
+inline const Names<T> kOnOff = {{"on", T{1}}, {"off", T{0}}};
+
+/// A value of type T by its name; any other one by its number, but for a bool.
+template <typename T>
+Argument choice(const std::string& name, std::string help, const Names<T>& names)
+{
+    std::string form;
+    for (const auto& [word, value] : names) {
+        form += (form.empty() ? "" : ", ") + word;
+    }
+    form += std::is_same_v<T, bool> ? "" : " or a number";
+    const auto parse = [=](std::span<const std::string> words) -> std::any {
+        for (const auto& [word, value] : names) {
+            if (word == words.front()) {
+                return value;
+            }
+        }
+        if constexpr (!std::is_same_v<T, bool>) {
+            using Number = typename std::conditional_t<std::is_enum_v<T>, std::underlying_type<T>,
+                                                       std::type_identity<T>>::type;
+            if (const auto value = toNumber<Number>(words.front())) {
+                return static_cast<T>(*value);
+            }
+        }
+        throw UsageError(fmt::format("{}: '{}' is none of {}", name, words.front(), form));
+    };
+    return {name, std::move(help), form, parse};
 }
 
 /// A bool: 0 or 1.

@@ -8,6 +8,17 @@
 
 namespace radioctl {
 
+/// An argument as a function takes it: texts are passed as pointers.
+template <typename T>
+decltype(auto) passed(const Arguments& in, size_t index)
+{
+    if constexpr (std::is_same_v<T, const char*>) {
+        return in.at<std::string>(index).c_str();
+    } else {
+        return in.at<T>(index);
+    }
+}
+
 /// A function whose parameters are the request's arguments, one by one.
 template <typename... Params>
 auto call(int (*function)(Params...))
@@ -16,7 +27,7 @@ auto call(int (*function)(Params...))
     return [=](const Arguments& in, Reply to) {
         return [&]<size_t... i>(std::index_sequence<i...>)
         {
-            return function(in.at<std::tuple_element_t<i, Types>>(i)..., to.userData, to.callback);
+            return function(passed<std::tuple_element_t<i, Types>>(in, i)..., to.userData, to.callback);
         }
         (std::make_index_sequence<sizeof...(Params) - 2>());
     };

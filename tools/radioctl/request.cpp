@@ -44,10 +44,10 @@ const std::vector<Request>& requests()
 {
     static const std::vector<Request> all = [] {
         std::vector<Request> rows;
-        for (auto part :
-             {cellRequests, deviceRequests, antennaRequests, powerRequests, sceneRequests, simRequests,
-              serviceRequests, redundancyRequests, networkRequests, coexistenceRequests, indicationRequests,
-              metricsRequests, atomRequests, nvRequests, bandRequests, rfRequests}) {
+        for (auto part : {cellRequests, deviceRequests, antennaRequests, powerRequests, sceneRequests,
+                          simRequests, serviceRequests, redundancyRequests, networkRequests, campingRequests,
+                          carrierAggregationRequests, coexistenceRequests, indicationRequests,
+                          metricsRequests, atomRequests, nvRequests, bandRequests, rfRequests}) {
             std::ranges::move(part(), std::back_inserter(rows));
         }
         return rows;

@@ -54,6 +54,8 @@ std::vector<Request> simRequests();
 std::vector<Request> serviceRequests();
 std::vector<Request> redundancyRequests();
 std::vector<Request> networkRequests();
+std::vector<Request> campingRequests();
+std::vector<Request> carrierAggregationRequests();
 std::vector<Request> coexistenceRequests();
 std::vector<Request> indicationRequests();
 std::vector<Request> metricsRequests();

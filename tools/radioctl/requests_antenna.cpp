@@ -1,5 +1,5 @@
 #include "radioctl/call.h"
-#include "radioctl/describe.h"
+#include "radioctl/describe_values.h"
 
 namespace radioctl {
 
@@ -91,6 +91,31 @@ std::vector<Request> antennaRequests()
           number<int>("option", "not sent")},
          call(radioGetTxCarkit),
          show(&Rsp::txCarkit)},
+        {"radioSetAolScenario",
+         group,
+         "Choose the scenario of the antenna optimisation logic",
+         {number<int>("scenario", "as the modem numbers it")},
+         call(radioSetAolScenario),
+         nullptr},
+        {"radioConnectSarSensor", group, "Connect the SAR sensor", {}, call(radioConnectSarSensor), nullptr},
+        {"radioDisconnectSarSensor",
+         group,
+         "Disconnect the SAR sensor",
+         {},
+         call(radioDisconnectSarSensor),
+         nullptr},
+        {"radioSetSarSensorChannel",
+         group,
+         "Choose a channel of the SAR sensor",
+         {number<int>("channel", "as the modem numbers it")},
+         call(radioSetSarSensorChannel),
+         nullptr},
+        {"radioGetSarSnsData",
+         group,
+         "What the SAR sensor says",
+         {},
+         call(radioGetSarSnsData),
+         show(&Rsp::atValues)},
     };
 }
 

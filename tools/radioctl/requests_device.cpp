@@ -8,6 +8,13 @@ inline constexpr auto kMembers<RadioServiceMode> =
     std::tuple{member("serviceMode", &RadioServiceMode::serviceMode)};
 
 template <>
+inline constexpr auto kMembers<RadioCentricMode> =
+    std::tuple{member("centricMode", &RadioCentricMode::centricMode)};
+
+template <>
+inline constexpr auto kMembers<RadioOperationMode> = std::tuple{member("mode", &RadioOperationMode::mode)};
+
+template <>
 inline constexpr auto kMembers<RadioFeatureState> = std::tuple{member("state", &RadioFeatureState::state)};
 
 template <>
@@ -107,6 +114,57 @@ std::vector<Request> deviceRequests()
           number<int>("thresh1", "the first threshold; sent multiplied by 4 with rat 4"),
           number<int>("thresh2", "the second threshold, likewise")},
          call(radioSetDsdaPreferCustThresh),
+         nullptr},
+        {"radioSetMsimSubModePref",
+         group,
+         "Set how the modem is to serve several SIM cards",
+         {number<int>("mode", "as the modem numbers it")},
+         call(radioSetMsimSubModePref),
+         nullptr},
+        {"radioSetServiceMode",
+         group,
+         "Set the UE mode of operation",
+         {choice<int>("mode", "which one", {{"ps2", 0}, {"csps1", 1}, {"csps2", 2}, {"ps1", 3}})},
+         call(radioSetServiceMode),
+         nullptr},
+        {"radioSetCentricMode",
+         group,
+         "Set what the usage is centred on",
+         {choice<int>("mode", "which one", {{"voice", 0}, {"data", 1}})},
+         call(radioSetCentricMode),
+         nullptr},
+        {"radioGetCentricMode",
+         group,
+         "What the usage is centred on",
+         {},
+         call(radioGetCentricMode),
+         show(&Rsp::centricModeInfo)},
+        {"radioSetOperationMode",
+         group,
+         "Set the operation mode, and look whether the modem has it",
+         {choice<RADIO_OPERATION_MODE_TYPE>(
+             "mode", "which one",
+             {{"online", RADIO_OPERATION_MODE_ONLINE}, {"off", RADIO_OPERATION_MODE_OFF}})},
+         call(radioSetOperationMode),
+         nullptr},
+        {"radioGetOperationMode",
+         group,
+         "The level of functionality",
+         {},
+         call(radioGetOperationMode),
+         show(&Rsp::operationMode)},
+        {"radioRequireModemReboot", group, "Restart the modem", {}, call(radioRequireModemReboot), nullptr},
+        {"radioUpdateFoldScreenStatus",
+         group,
+         "Tell the modem how the device's screen is folded",
+         {number<int>("state", "as the modem numbers it")},
+         call(radioUpdateFoldScreenStatus),
+         nullptr},
+        {"radioSetImeiSvn",
+         group,
+         "Set the software version number of the device's identity",
+         {number<int>("svn", "0 to 99 for a valid identity")},
+         call(radioSetImeiSvn),
          nullptr},
     };
 }

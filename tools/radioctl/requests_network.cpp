@@ -23,15 +23,16 @@ inline constexpr auto kMembers<RadioPlmnBlockInfo> = std::tuple{
 
 template <>
 inline constexpr auto kMembers<RadioOosCfgInfo> = std::tuple{
-    member("enable", &RadioOosCfgInfo::enable, "not sent by option 100"),
-    member("option", &RadioOosCfgInfo::option, "100: the sniffer that watches for a network's return"),
-    member("p1", &RadioOosCfgInfo::p1, "p1 to p6 are not sent by option 100"),
+    member("enable", &RadioOosCfgInfo::enable, "of options 3 and 4: 0 off, anything else on"),
+    member("option", &RadioOosCfgInfo::option,
+           "1: p7 to p11; 2: p1, p2, p3, p5, p6; 3, 4: enable; 5: p4; 100: the sniffer, p7 to p11"),
+    member("p1", &RadioOosCfgInfo::p1),
     member("p2", &RadioOosCfgInfo::p2),
     member("p3", &RadioOosCfgInfo::p3),
     member("p4", &RadioOosCfgInfo::p4),
     member("p5", &RadioOosCfgInfo::p5),
     member("p6", &RadioOosCfgInfo::p6),
-    member("p7", &RadioOosCfgInfo::p7, "the low 8 bits of p7 to p11 are sent"),
+    member("p7", &RadioOosCfgInfo::p7, "of p7 to p11 option 100 sends the low 8 bits"),
     member("p8", &RadioOosCfgInfo::p8),
     member("p9", &RadioOosCfgInfo::p9),
     member("p10", &RadioOosCfgInfo::p10),

@@ -1,5 +1,5 @@
 #include "radioctl/call.h"
-#include "radioctl/describe.h"
+#include "radioctl/describe_values.h"
 
 namespace radioctl {
 
@@ -83,6 +83,36 @@ std::vector<Request> powerRequests()
          {},
          call(radioGetModemHeapList),
          show(&Rsp::modemHeapList)},
+        {"radioUpdateDcdcSleepState",
+         group,
+         "Set how the modem's voltage converter rests",
+         {number<int>("state", "bits: 0 asleep, 1 receiver follows transmitter, 2 100k mode, 3 RQ4120")},
+         call(radioUpdateDcdcSleepState),
+         nullptr},
+        {"radioSendFastDormancy",
+         group,
+         "Have the modem ask the network to release its connection",
+         {},
+         call(radioSendFastDormancy),
+         nullptr},
+        {"radioSetPSConformanceMode",
+         group,
+         "Set the modem's conformance of packet services",
+         {number<int>("value1", "as the modem defines it"), number<int>("value2", "likewise")},
+         call(radioSetPSConformanceMode),
+         nullptr},
+        {"radioQueryFastDormancyMode",
+         group,
+         "The modem's conformance of packet services",
+         {},
+         call(radioQueryFastDormancyMode),
+         show(&Rsp::atValues)},
+        {"radioQueryLegacyFastDormancyMode",
+         group,
+         "Whether fast dormancy of releases before 8 is off",
+         {},
+         call(radioQueryLegacyFastDormancyMode),
+         show(&Rsp::atValues)},
     };
 }
 

@@ -15,7 +15,8 @@ inline constexpr auto kMembers<TXADCINFO> =
 
 std::vector<Request> rfRequests()
 {
-    const std::string group = "Radio frequency control (but for the first not supported by the library)";
+    const std::string group =
+        "Radio frequency control (but for the first three not supported by the library)";
     const auto rat = number<int>("rat", "radio access technology");
     return {
         {"radioSetAsdivFixPosition",
@@ -23,6 +24,18 @@ std::vector<Request> rfRequests()
          "Fix antennas by the commands of the RF feature file",
          {number<int>("featureId", "a feature of the file"), number<int>("index", "one of its positions")},
          call(radioSetAsdivFixPosition),
+         nullptr},
+        {"radioSetAtcTableInit",
+         group,
+         "Enter the modem's RF test tables",
+         {},
+         call(radioSetAtcTableInit),
+         nullptr},
+        {"radiosetAtcTableDeInit",
+         group,
+         "Leave the modem's RF test tables",
+         {},
+         call(radiosetAtcTableDeInit),
          nullptr},
         {"radioSetTasForceIdxByRat",
          group,

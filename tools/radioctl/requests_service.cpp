@@ -20,6 +20,9 @@ template <>
 inline constexpr auto kMembers<RadioImsRtpThresholdInfo> =
     std::tuple{member("values", &RadioImsRtpThresholdInfo::values, "as the modem defines them")};
 
+template <>
+inline constexpr auto kMembers<RadioImsUssd> = std::tuple{member("enabled", &RadioImsUssd::enabled)};
+
 std::vector<Request> serviceRequests()
 {
     const std::string group = "IMS media and quality of service";
@@ -66,6 +69,24 @@ std::vector<Request> serviceRequests()
          {number<int>("type", "kind of data")},
          call(radioGetQosData),
          show(&Rsp::qosData)},
+        {"radioGetImsUssdEnabled",
+         group,
+         "Whether supplementary services go over IMS",
+         {},
+         call(radioGetImsUssdEnabled),
+         show(&Rsp::imsUssd)},
+        {"radioSetCiwlanUiSwitch",
+         group,
+         "Switch calls over Wi-Fi while roaming between cellular and Wi-Fi",
+         {choice<bool>("enable", "whether it is on", kOnOff<bool>)},
+         call(radioSetCiwlanUiSwitch),
+         nullptr},
+        {"radioSetCarrierOmacpFqdn",
+         group,
+         "Name the gateway of calls over Wi-Fi",
+         {text("fqdn", "its name", 255)},
+         call(radioSetCarrierOmacpFqdn),
+         nullptr},
     };
 }
 

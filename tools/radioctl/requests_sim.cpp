@@ -17,6 +17,14 @@ inline constexpr auto kMembers<RadioUimAuthentication> = std::tuple{
     member("failure", &RadioUimAuthentication::failure), member("length", &RadioUimAuthentication::length),
     countedMember("content", &RadioUimAuthentication::content, "length", &RadioUimAuthentication::length)};
 
+template <>
+inline constexpr auto kMembers<RadioSimCardType> =
+    std::tuple{member("type", &RadioSimCardType::type), member("imsi", &RadioSimCardType::imsi)};
+
+template <>
+inline constexpr auto kMembers<RadioSimlockCategory> = std::tuple{
+    countedMember("category", &RadioSimlockCategory::category, "length", &RadioSimlockCategory::length)};
+
 std::vector<Request> simRequests()
 {
     const std::string group = "SIM trays, cards and locks";
@@ -72,6 +80,24 @@ std::vector<Request> simRequests()
          {lockData(512)},
          callWithList(radioGetRegionLockStatus),
          show(&Rsp::simLockData)},
+        {"radioGetSimCardType",
+         group,
+         "What kind of SIM card it is: 1 of the test network 001/01, 0 any other",
+         {number<int>("option", "not sent")},
+         call(radioGetSimCardType),
+         show(&Rsp::simCardType)},
+        {"radioGetSimlockCategoryData",
+         group,
+         "The categories of the SIM lock",
+         {},
+         call(radioGetSimlockCategoryData),
+         show(&Rsp::simlockCategory)},
+        {"radioGetSimlockLockStatus",
+         group,
+         "Not supported by the library",
+         {},
+         call(radioGetSimlockLockStatus),
+         nullptr},
     };
 }
 
