@@ -49,7 +49,7 @@ static_assert(sizeof(RadioLockCellInfoType) == 20);
 extern "C" {
 
 /// Sets whether the modem searches in the background for better technologies. Ignoring the neighbour list
-/// without searching changes nothing and succeeds.
+/// without searching changes nothing and succeeds, on the timer thread.
 ///
 /// @param rat                  1: for LTE while in 3G or 2G; 0: for NR while in LTE, 3G or 2G
 /// @param ignoreNeighbourList  whether frequencies outside of the neighbour list count

@@ -67,8 +67,8 @@ RADIO_API int radioSetSarSensorChannel(int channel, void* userData, RadioRequest
 
 /// What the SAR sensor says.
 ///
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues` when the modem accepted the command,
-///                  else with RADIO_APIS_FAILURE and a zeroed record, or with the modem's failure and no record
+/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues`; with RADIO_APIS_FAILURE and a zeroed
+///                  record when the modem refused or answered no field; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetSarSnsData(void* userData, RadioRequestCallback callback);
 

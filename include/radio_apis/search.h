@@ -24,10 +24,11 @@ struct RadioPlmnBlockInfo {
 
 /// What the modem does while it is out of service: values as it defines them.
 struct RadioOosCfgInfo {
-    int32_t enable; ///< of options 3 and 4: 0 off, anything else on
-    int32_t
-        option; ///< what is configured, and by which values. 1: p7 to p11; 2: p1, p2, p3, p5 and p6; 3 and 4:
-                ///< enable; 5: p4; 100: the sniffer that watches for a network's return, p7 to p11
+    /// Of options 3 and 4: 0 off, anything else on.
+    int32_t enable;
+    /// What is configured, and by which values: 1 by p7 to p11, 2 by p1, p2, p3, p5 and p6, 3 and 4 by `enable`,
+    /// 5 by p4; 100 the sniffer that watches for a network's return, by p7 to p11.
+    int32_t option;
     int32_t p1;
     int32_t p2;
     int32_t p3;

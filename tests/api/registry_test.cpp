@@ -146,3 +146,24 @@ TEST_F(Registry, RoutesEventListeners)
         }
     }
 }
+
+TEST_F(Registry, ChoosesTheClientByArguments)
+{
+    constexpr uint16_t kAt = 3;
+    ASSERT_EQ(radioApisInit(kModem, 0), 0);
+    const std::pair<std::function<int()>, bool> calls[] = {
+        {[&] { return radioSetOosCfg({.option = 100}, &caller, Caller::onResult); }, false},
+        {[&] { return radioSetOosCfg({.option = 5}, &caller, Caller::onResult); }, true},
+        {[&] { return radioSetPowerSavingState({.cgType = 3, .type = 600}, &caller, Caller::onResult); },
+         true},
+        {[&] { return radioSetPowerSavingState({.cgType = 3, .type = 5}, &caller, Caller::onResult); },
+         false},
+        {[&] { return radioSetAntForceStateByRat(4, 1, &caller, Caller::onResult); }, true},
+        {[&] { return radioSetAntForceStateByRat(3, 1, &caller, Caller::onResult); }, false},
+    };
+    for (const auto& [request, isAt] : calls) {
+        ASSERT_EQ(request(), 0);
+        EXPECT_EQ(modem.sent.at(0).message->hdr.msg_id == kAt, isAt);
+        modem.answer({result(0)});
+    }
+}

