@@ -20,7 +20,7 @@ CmdPair::CmdPair(const char* cmd, AtResponseCallback::Function fn, int pauseAfte
       interpreter(mindroid::make<AtResponseCallback>(std::move(fn)))
 {}
 
-void processRadioException(mindroid::sp<RadioApiCallback> cb, void* userData,
+void processRadioException(const mindroid::sp<RadioApiCallback>& cb, void* userData,
                            const mindroid::sp<mindroid::Exception>& e)
 {
     ZeroedResult record;

@@ -22,7 +22,7 @@ private:
 
 /// Where the exceptions of a chain end: calls `cb` with a zeroed record and the code of the RadioException
 /// that caused `e`, RADIO_APIS_FAILURE when something else did.
-void processRadioException(mindroid::sp<RadioApiCallback> cb, void* userData,
+void processRadioException(const mindroid::sp<RadioApiCallback>& cb, void* userData,
                            const mindroid::sp<mindroid::Exception>& e);
 
 /// One command of a chain.

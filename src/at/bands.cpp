@@ -36,22 +36,22 @@ std::optional<uint32_t> toMask(std::string_view digits)
 /// Where one radio access technology's bands stand in an answer.
 struct BandPlace {
     uint16_t rat;
+    enum class Form { Mask, Masks, Hex } form;
     const char* currentQuery;
     const char* query;
     size_t first; ///< piece
-    enum class Form { Mask, Masks, Hex } form;
 };
 
 constexpr size_t kLtePiece = 2; ///< the first of as many as there are
 constexpr size_t kNrPiece = 3;
 
 constexpr BandPlace kBandPlaces[] = {
-    {RADIO_BAND_GSM, "AT+EPBSE?", "AT+EPBSE=?", 0, BandPlace::Form::Mask},
-    {RADIO_BAND_UMTS, "AT+EPBSE?", "AT+EPBSE=?", 1, BandPlace::Form::Mask},
-    {RADIO_BAND_CDMA, "AT+ECBANDCFG?", "AT+ECBANDCFG?", 0, BandPlace::Form::Mask},
-    {RADIO_BAND_LTE, "AT+EPBSE?", "AT+EPBSE=?", kLtePiece, BandPlace::Form::Masks},
-    {RADIO_BAND_NR, "AT+EPBSEH?", "AT+EPBSEH=?", kNrPiece, BandPlace::Form::Hex},
-    {RADIO_BAND_NR_SECOND, "AT+EPBSEH?", "AT+EPBSEH=?", 4, BandPlace::Form::Hex},
+    {RADIO_BAND_GSM, BandPlace::Form::Mask, "AT+EPBSE?", "AT+EPBSE=?", 0},
+    {RADIO_BAND_UMTS, BandPlace::Form::Mask, "AT+EPBSE?", "AT+EPBSE=?", 1},
+    {RADIO_BAND_CDMA, BandPlace::Form::Mask, "AT+ECBANDCFG?", "AT+ECBANDCFG?", 0},
+    {RADIO_BAND_LTE, BandPlace::Form::Masks, "AT+EPBSE?", "AT+EPBSE=?", kLtePiece},
+    {RADIO_BAND_NR, BandPlace::Form::Hex, "AT+EPBSEH?", "AT+EPBSEH=?", kNrPiece},
+    {RADIO_BAND_NR_SECOND, BandPlace::Form::Hex, "AT+EPBSEH?", "AT+EPBSEH=?", 4},
 };
 
 const BandPlace* bandPlace(uint16_t rat)
@@ -86,7 +86,7 @@ bool readHex(std::string_view digits, RadioBandPrefer& out)
         digits.remove_prefix(2);
     }
     int length = 0;
-    if (digits.size() > 2 * kRadioMaxBandBytes ||
+    if (digits.size() > 2 * size_t{kRadioMaxBandBytes} ||
         hexStringToByteArray(std::string(digits).c_str(), out.bands, &length) != 0) {
         zorLogE(kTag, "%s : hexStringToByteArray error", kGetBandPrefer);
         return false;

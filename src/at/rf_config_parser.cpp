@@ -148,7 +148,7 @@ char* RfConfigParser::getAtCmd(const char* command, const char* params)
     auto* text = static_cast<char*>(std::calloc(prefix + rest + 1, 1));
     if (text != nullptr) {
         std::memcpy(text, entry->second, prefix);
-        std::memcpy(text + prefix, params, rest);
+        std::memcpy(text + prefix, params, rest + 1);
     }
     return text;
 }

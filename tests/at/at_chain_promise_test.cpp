@@ -64,7 +64,9 @@ Fields failingAnswer(Failure failure)
 TEST_F(AtChains, EndOnceWhateverFails)
 {
     for (size_t position = 0; position < std::size(kCommands); ++position) {
-        for (const auto& [failure, code] : kFailures) {
+        for (const auto& row : kFailures) {
+            const Failure failure = row.first;
+            const int code = row.second;
             SCOPED_TRACE(testing::Message() << "command " << position << " failure " << int(failure));
             caller = {};
             log.clear();

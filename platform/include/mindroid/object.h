@@ -83,6 +83,7 @@ private:
         if (mObject == nullptr) {
             throwNullPointerException();
         }
+        // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): the analyser doesn't follow the counting
         return mObject;
     }
     void acquire()
@@ -94,6 +95,7 @@ private:
     void release()
     {
         if (mObject != nullptr) {
+            // NOLINTNEXTLINE(clang-analyzer-cplusplus.NewDelete): the analyser doesn't follow the counting
             mObject->releaseReference();
         }
     }

@@ -70,7 +70,7 @@ public:
     /// exception is passed on without running anything. `next` may not throw.
     sp<Promise> compose(std::function<sp<Thenable<T>>(const T&)> next)
     {
-        const auto result = make<Promise>();
+        auto result = make<Promise>();
         then([next = std::move(next), result](const T& value, const sp<Exception>& exception) {
             if (exception) {
                 result->completeExceptionally(exception);
@@ -87,7 +87,7 @@ public:
     sp<Promise> delay(std::chrono::milliseconds pause)
     {
         return compose([pause](const T& value) {
-            const auto delayed = make<Promise>();
+            auto delayed = make<Promise>();
             runAfter(pause, [delayed, value] { delayed->complete(value); });
             return delayed;
         });
