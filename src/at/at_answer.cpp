@@ -62,7 +62,7 @@ AtResponseCallback::Function singleValue(const char* method, const char* value,
         if (count < 1) {
             return RADIO_APIS_FAILURE;
         }
-        const int kind = answer->getByte();
+        const int8_t kind = answer->getByte();
         zorLogD(kTag, "VornAtClient::%s type=%d", method, kind);
         if (kind == AtCmdParser::kInteger) {
             const int kept = store(*record, answer->getInt());

@@ -38,7 +38,7 @@ std::optional<bool> checkAnswer(const sp<Parcel>& answer, const Check& check)
 /// Sends one command; the promise tells what its check says, or fails.
 sp<Step> sendStep(const sp<VornAtClient>& client, void* userData, const char* cmd, const Check& check)
 {
-    const auto step = make<Step>();
+    auto step = make<Step>();
     const auto onAnswer = [=](const sp<Parcel>& answer, RadioApisResultType*) {
         const auto verdict = checkAnswer(answer, check);
         if (!verdict) {
