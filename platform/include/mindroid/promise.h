@@ -115,7 +115,7 @@ private:
             mDone = true;
             mValue = std::move(value);
             mException = std::move(exception);
-            callbacks = std::move(mCallbacks);
+            callbacks.swap(mCallbacks);
         }
         for (const Callback& callback : callbacks) {
             callback(mValue, mException);
