@@ -151,6 +151,14 @@ AtReply querySlotsOn(const AtCall& call)
     return {AtResult::Ok, {"+EFUN: " + queryableMode(call.slot)}};
 }
 
+/// A modem whose slots are off has its radio off, whatever level it was set to.
+AtReply queryFunctionality(const AtCall& call)
+{
+    const std::string level = atValue(call.slot, "+CFUN");
+    const bool slotsOff = level == "1" && queryableMode(call.slot) == "0";
+    return {AtResult::Ok, {"+CFUN: " + (slotsOff ? "4" : level)}};
+}
+
 AtReply getImsi(const AtCall& call)
 {
     return call.slot.card.present ? AtReply{AtResult::Ok, {call.slot.card.imsi}}
@@ -173,7 +181,7 @@ constexpr AtCommand kCommands[] = {
      .initial = "1"},
     {.name = "+CFUN",
      .set = setFunctionality,
-     .query = queryStored,
+     .query = queryFunctionality,
      .test = testFunctionality,
      .rules = kFunctionality,
      .initial = "1"},

@@ -193,6 +193,7 @@ const Example kExamples[] = {
     {"get-centric-mode", R"({"centricMode": 0})"},
     {"get-operation-mode", R"({"mode": 1})"},
     {"set-operation-mode off", ""},
+    {"get-operation-mode", R"({"mode": 4})"},
     {"get-serving-cellular-cell-info", R"({"rat": 0})"},
     {"set-operation-mode online", ""},
     {"get-serving-cellular-cell-info", R"({"rat": 5})"},
