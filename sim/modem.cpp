@@ -33,4 +33,15 @@ nlohmann::json Modem::control(const nlohmann::json& command, TimePoint now)
     return mState->control(command, now);
 }
 
+std::string Modem::control(const std::string& command, TimePoint now)
+{
+    nlohmann::json answer;
+    try {
+        answer = mState->control(nlohmann::json::parse(command), now);
+    } catch (const nlohmann::json::exception& error) {
+        answer = {{"ok", false}, {"error", error.what()}};
+    }
+    return answer.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
 } // namespace sim

@@ -1,4 +1,4 @@
-#include "message.h"
+#include "frame_stream.h"
 
 #include <gtest/gtest.h>
 
@@ -79,6 +79,37 @@ TEST(Frame, damagedOnesDoNoHarm)
         if (const MessagePtr message = host::decodeFrame(frame)) {
             EXPECT_TRUE(host::decodeFrame(frameOf(message)));
         }
+    }
+}
+
+TEST(FrameStream, cutsWhateverPiecesCome)
+{
+    const MessagePtr large(vorn_msg_init_with_txid(1, 1, 2));
+    const Bytes value(60'000, 'v');
+    for (uint16_t tag = 1; tag < 5; ++tag) {
+        vorn_msg_add_tlv(large.get(), tag, static_cast<uint16_t>(value.size()), value.data());
+    }
+    const std::vector<Bytes> frames = {sampleFrame(), frameOf(large), sampleFrame()};
+    Bytes all;
+    for (const Bytes& frame : frames) {
+        all.insert(all.end(), frame.begin(), frame.end());
+    }
+    for (const size_t piece : {size_t{1}, size_t{7}, size_t{4096}, all.size()}) {
+        host::FrameStream stream;
+        std::vector<Bytes> cut;
+        for (size_t sent = 0; sent < all.size();) {
+            const std::span<uint8_t> room = stream.room();
+            const auto bytes =
+                std::span(all).subspan(sent, std::min({piece, room.size(), all.size() - sent}));
+            std::ranges::copy(bytes, room.begin());
+            stream.filled(bytes.size());
+            sent += bytes.size();
+            while (const auto frame = stream.next()) {
+                cut.emplace_back(frame->begin(), frame->end());
+            }
+        }
+        EXPECT_EQ(cut, frames) << piece;
+        EXPECT_FALSE(stream.isBroken());
     }
 }
 

@@ -1,90 +1,18 @@
 /// The library over the real message library and the simulated modem: every accepted request is answered
 /// once, and every event told once, whatever the modem, the link and other threads do.
+#include "system/modem_use.h"
+
 #include "at/at_chain_promise.h"
 #include "host/clock.h"
 #include "host/device.h"
-#include "host/vorn_control.h"
-#include "radio_apis/radio_apis.h"
 #include "vs/vorn_vs_client.h"
 
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
-
 #include <atomic>
-#include <condition_variable>
-#include <mutex>
 #include <thread>
 
 using namespace std::chrono_literals;
 
 namespace {
-
-constexpr auto kModem = RADIO_APIS_SERVICE_MODEM;
-
-/// Counts the answers to many requests; each request has a counter of its own.
-class Answers {
-public:
-    explicit Answers(size_t requests) : mCounters(requests) {}
-
-    void* userData(size_t request)
-    {
-        mCounters[request].owner = this;
-        return &mCounters[request];
-    }
-    static void onResult(void* user, RADIO_APIS_RESULT result, RadioApisResultType*)
-    {
-        auto& counter = *static_cast<Counter*>(user);
-        const std::lock_guard lock(counter.owner->mMutex);
-        ++counter.calls;
-        counter.owner->mFailures += result != RADIO_APIS_SUCCESS;
-        ++counter.owner->mTotal;
-        counter.owner->mChanged.notify_all();
-    }
-
-    /// Waits until as many answers came as requests were accepted, then checks that each came once.
-    void expectOnceEach(size_t accepted)
-    {
-        std::unique_lock lock(mMutex);
-        EXPECT_TRUE(mChanged.wait_for(lock, 60s, [&] { return mTotal >= accepted; })) << mTotal;
-        EXPECT_EQ(mTotal, accepted);
-        for (const Counter& counter : mCounters) {
-            EXPECT_LE(counter.calls, 1);
-        }
-    }
-    size_t failures()
-    {
-        const std::lock_guard lock(mMutex);
-        return mFailures;
-    }
-
-private:
-    struct Counter {
-        Answers* owner = nullptr;
-        int calls = 0;
-    };
-    std::vector<Counter> mCounters;
-    std::mutex mMutex;
-    std::condition_variable mChanged;
-    size_t mTotal = 0;
-    size_t mFailures = 0;
-};
-
-nlohmann::json control(const nlohmann::json& command)
-{
-    nlohmann::json answer;
-    const auto keep = [](const char* json, void* user) {
-        *static_cast<nlohmann::json*>(user) = nlohmann::json::parse(json);
-    };
-    EXPECT_EQ(vorn_host_control(command.dump().c_str(), keep, &answer), 0);
-    EXPECT_TRUE(answer.value("ok", false)) << answer;
-    return answer;
-}
-
-void addFault(nlohmann::json match, nlohmann::json fault)
-{
-    fault["match"] = std::move(match);
-    control({{"command", "fault-add"}, {"fault", fault}});
-}
 
 struct ExactlyOnce : testing::Test {
     ExactlyOnce()

@@ -132,6 +132,7 @@ int main(int argc, char** argv)
     app.add_option("--timeout", timeout, "how long to wait for an answer, in ms")
         ->check(CLI::Range(1, 3600000));
     app.add_flag("--json", options.json, "print one JSON object per answer");
+    app.add_flag("--trace", options.session.trace, "show every message on standard error");
     app.footer(kFooter);
     // What is no option of radioctl's own is the command's, wherever it stands.
     app.allow_extras();
@@ -140,6 +141,7 @@ int main(int argc, char** argv)
         app.parse(argc, argv);
         options.words = app.remaining();
         options.session.timeout = std::chrono::milliseconds(timeout);
+        options.session.traceJson = options.json;
         if (options.words.empty()) {
             throw UsageError("no command; 'radioctl --help' tells them");
         }

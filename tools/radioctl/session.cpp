@@ -39,10 +39,14 @@ void onAnswer(void* userData, RADIO_APIS_RESULT result, RadioApisResultType* rec
 
 /// Without a device root there is no property that says that the channel is supported; on a workstation it
 /// is.
-void prepareWorkstation(const std::string& device)
+void prepareWorkstation(const SessionOptions& options)
 {
-    if (!device.empty()) {
-        setenv("RADIO_VORN_DEVICE", device.c_str(), 1);
+    if (!options.device.empty()) {
+        setenv("RADIO_VORN_DEVICE", options.device.c_str(), 1);
+    }
+    if (options.trace) {
+        setenv("RADIO_TRACE", "-", 1);
+        setenv("RADIO_TRACE_FORMAT", options.traceJson ? "json" : "text", 1);
     }
     if (host::deviceRoot().empty()) {
         host::setProperty("ro.vendor.zor_vorn_support", "1");
@@ -60,7 +64,7 @@ bool Outcome::succeeded() const
 
 Session::Session(const SessionOptions& options) : mTimeout(options.timeout)
 {
-    prepareWorkstation(options.device);
+    prepareWorkstation(options);
     const int result = radioApisInit(RADIO_APIS_SERVICE_MODEM, options.instance);
     if (result == RADIO_APIS_NOT_SUPPORTED) {
         throw std::runtime_error(

@@ -23,6 +23,8 @@ struct Outcome {
 struct SessionOptions {
     std::string device; ///< empty: what the device file names
     unsigned instance = 0;
+    bool trace = false;     ///< to standard error
+    bool traceJson = false; ///< a JSON object per line
     std::chrono::milliseconds timeout{10000};
 };
 

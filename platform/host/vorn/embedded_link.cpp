@@ -27,13 +27,7 @@ Clock::TimePoint EmbeddedLink::nextDeadline() const
 
 std::optional<std::string> EmbeddedLink::control(const std::string& command)
 {
-    nlohmann::json answer;
-    try {
-        answer = mModem.control(nlohmann::json::parse(command), Clock::now());
-    } catch (const nlohmann::json::exception& error) {
-        answer = {{"ok", false}, {"error", error.what()}};
-    }
-    return answer.dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+    return mModem.control(command, Clock::now());
 }
 
 void EmbeddedLink::answer(sim::ClientId /*client*/, sim::Message message)

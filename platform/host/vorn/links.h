@@ -7,8 +7,9 @@
 
 namespace host {
 
-/// "embedded": the built-in scenario in this process; "embedded:FILE": the scenario in that file. Throws
-/// LinkError for every other name and for a scenario that can't be used.
+/// "embedded": the built-in scenario in this process; "embedded:FILE": the scenario in that file;
+/// "unix:PATH": the modem-sim that listens there. Traced when the environment asks for it. Throws LinkError
+/// for every other name, and for a scenario or a trace file that can't be used.
 std::unique_ptr<Link> makeLink(const std::string& device, LinkEvents& events);
 
 } // namespace host

@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace sim {
 
@@ -69,6 +70,9 @@ public:
     ///   {"command": "restart"}                       drops the links; all but the NV items starts anew
     ///   {"command": "load", "scenario": SCENARIO}    everything starts anew, links stay
     nlohmann::json control(const nlohmann::json& command, TimePoint now);
+
+    /// The same with JSON texts.
+    std::string control(const std::string& command, TimePoint now);
 
 private:
     class State;

@@ -1,0 +1,49 @@
+/// The simulated modem in a process of its own, behind a Unix socket.
+#pragma once
+
+#include "command_message.h"
+#include "connection.h"
+#include "link.h"
+
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+namespace host {
+
+/// A thread of its own, from open() to close(), reads and writes the socket: a modem that takes its time holds
+/// up nobody.
+class UnixLink : public Link, private ConnectionEvents {
+public:
+    UnixLink(std::string path, LinkEvents& events) : mPath(std::move(path)), mEvents(events) {}
+    ~UnixLink() override { close(); }
+    UnixLink(const UnixLink&) = delete;
+    UnixLink& operator=(const UnixLink&) = delete;
+
+    void open() override;
+    void close() override;
+    void send(const vorn_msg_t& request) override;
+    std::optional<std::string> control(const std::string& command) override;
+
+private:
+    void received(Connection& connection, MessagePtr message) override;
+    void closed(Connection& connection, const std::string& reason) override;
+    void post(const vorn_msg_t& message);
+    void sendPosted();
+
+    const std::string mPath;
+    LinkEvents& mEvents;
+
+    std::unique_ptr<asio::io_context> mContext; ///< a new one each time, without what an earlier one left
+    std::shared_ptr<Connection> mConnection;
+    std::thread mThread;
+
+    std::mutex mMutex;            ///< guards the rest
+    std::vector<uint8_t> mPosted; ///< frames for the connection's thread
+    std::condition_variable mAnswered;
+    bool mIsUp = false;
+    uint32_t mCommandNumber = 0; ///< of the last command
+    std::optional<CommandMessage> mAnswer;
+};
+
+} // namespace host
