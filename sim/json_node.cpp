@@ -138,7 +138,7 @@ std::vector<uint8_t> JsonNode::hexBytes(size_t minLength, size_t maxLength) cons
 void JsonNode::finish() const
 {
     for (const auto& [key, value] : members()) {
-        if (!mRead.contains(key) && key != "comment") {
+        if (!mRead.contains(key) && key != "comment" && key != "$schema") {
             value.fail("unknown name");
         }
     }

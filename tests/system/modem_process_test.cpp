@@ -73,7 +73,8 @@ protected:
         return std::system(("RADIO_LOG=off '" RADIOCTL "' " + words + " >/dev/null").c_str());
     }
 
-    static inline Happenings states; ///< outlives the test: a service listener stays for good
+    /// A service listener stays for good, with threads that outlive the program's statics.
+    static inline Happenings& states = *new Happenings;
     soak::ModemProcess modem{MODEM_SIM};
 };
 
@@ -81,7 +82,7 @@ TEST_F(ModemSim, IsSharedByPrograms)
 {
     modem.start();
     use(modem.device());
-    static Happenings events;
+    static Happenings& events = *new Happenings;
     registerRadioEvent(RADIO_EVENT_TEST_IND, nullptr,
                        [](auto, auto, void* data, int) { events.note(*static_cast<int*>(data)); });
     ASSERT_EQ(radioRegisterVsEvent({.test = {1, 1}}, nullptr, nullptr), 0);
@@ -91,7 +92,7 @@ TEST_F(ModemSim, IsSharedByPrograms)
 
     EXPECT_EQ(radioctl(there + " set-feature-state 5 17"), 0);
     Answers answers(1);
-    static int state;
+    static uint32_t state;
     ASSERT_EQ(radioGetFeatureState(5, answers.userData(0),
                                    [](void* user, RADIO_APIS_RESULT result, RadioApisResultType* record) {
                                        state = record->rsp.featureState.state;
@@ -99,7 +100,12 @@ TEST_F(ModemSim, IsSharedByPrograms)
                                    }),
               0);
     answers.expectOnceEach(1);
-    EXPECT_EQ(state, 17);
+    EXPECT_EQ(state, 17U);
+    const std::string fault =
+        R"( sim fault-add 'match={"message":"SetSarState"}' action=result result=21 count=1)";
+    EXPECT_EQ(radioctl(there + fault), 0);
+    EXPECT_NE(radioctl(there + " set-sar-state 1 2 2>&1"), 0);
+    EXPECT_EQ(radioctl(there + " set-sar-state 1 2"), 0);
     EXPECT_EQ(modem.stop(), 0);
     EXPECT_FALSE(std::filesystem::exists(modem.socket()));
 }

@@ -21,6 +21,20 @@ Json askSimulation(const Json& command)
     return answer;
 }
 
+/// The members that MEMBER=VALUE words give. Unlike a record's, their types are the simulation's to know: a
+/// value is what it is in JSON, or else a text.
+Json membersFromWords(const std::string& name, std::span<const std::string> words)
+{
+    Json members = recordFromWords(name, words);
+    for (Json& value : members) {
+        if (value.is_string()) {
+            Json parsed = Json::parse(value.get<std::string>(), nullptr, false);
+            value = parsed.is_discarded() ? value : parsed;
+        }
+    }
+    return members;
+}
+
 /// `indicate NAME [FIELD=VALUE...]`; --value V is short for an indication that has one value, --times N
 /// repeats it.
 Json parseIndicate(std::span<const std::string> words)
@@ -41,7 +55,7 @@ Json parseIndicate(std::span<const std::string> words)
         }
     }
     if (!fields.empty()) {
-        command["fields"] = recordFromWords("fields", fields);
+        command["fields"] = membersFromWords("fields", fields);
     }
     return command;
 }
@@ -67,7 +81,7 @@ Json parseSimulation(std::span<const std::string> words)
         return {{"command", name}, {"scenario", readJson(rest.front())}};
     }
     if (name == "fault-add" && !rest.empty()) {
-        return {{"command", name}, {"fault", recordFromWords("fault", rest)}};
+        return {{"command", name}, {"fault", membersFromWords("fault", rest)}};
     }
     if ((name == "state" || name == "restart" || name == "fault-clear") && rest.empty()) {
         return {{"command", name}};

@@ -2,7 +2,8 @@
 ///
 /// sim/default_scenario.json is the built-in one and shows every member; a file names only what it wants
 /// different. Objects are laid over the built-in ones member by member, the entries of "slots" one by one;
-/// any other list replaces the built-in one, and null removes it. A "comment" may stand in every object.
+/// any other list replaces the built-in one, and null removes it. A "comment" may stand in every object;
+/// sim/scenario.schema.json, which "$schema" may name, tells editors what there is.
 ///   "sim"       the slot's card: {"present": FLAG, "imsi": DIGITS, "authentication": {"k": HEX, "op" or
 ///   "opc":
 ///               HEX, "sqn": HEX, "amf": HEX}} with the values of MILENAGE (3GPP TS 35.206); sqn is the
