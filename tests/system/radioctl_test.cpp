@@ -21,13 +21,8 @@ struct Ran {
     std::string output;
 };
 
-/// Runs radioctl in a shell, with standard error in front of what is looked at.
-Ran radioctl(const std::string& arguments, const std::string& input = "")
+Ran shell(const std::string& command)
 {
-    const std::string inputFile = testing::TempDir() + "radioctl-input-" + std::to_string(getpid());
-    std::ofstream(inputFile) << input;
-    const std::string command = "RADIO_LOG=off RADIO_DEVICE_ROOT='" DEVICE_ROOT "' '" RADIOCTL "' " +
-                                arguments + " <'" + inputFile + "' 2>&1";
     std::FILE* pipe = popen(command.c_str(), "r");
     Ran run;
     char buffer[4096];
@@ -35,6 +30,17 @@ Ran radioctl(const std::string& arguments, const std::string& input = "")
         run.output.append(buffer, n);
     }
     run.status = WEXITSTATUS(pclose(pipe));
+    return run;
+}
+
+/// Runs radioctl in a shell, with standard error in front of what is looked at.
+Ran radioctl(const std::string& arguments, const std::string& input = "")
+{
+    const std::string inputFile = testing::TempDir() + "radioctl-input-" + std::to_string(getpid());
+    std::ofstream(inputFile) << input;
+    const std::string command = "RADIO_LOG=off RADIO_DEVICE_ROOT='" DEVICE_ROOT "' '" RADIOCTL "' " +
+                                arguments + " <'" + inputFile + "' 2>&1";
+    Ran run = shell(command);
     std::remove(inputFile.c_str());
     return run;
 }
@@ -341,6 +347,51 @@ TEST(Radioctl, HasACommandForEveryPublicRequest)
     EXPECT_EQ(listed, publicRequests());
 }
 
+TEST(Radioctl, PutsEarlierAnswersIntoLaterLines)
+{
+    const Ran run =
+        radioctl("--json batch -", "cell = get-all-cellular-cell-info\n"
+                                   "write-nv 7 0 ${cell.neighbours[0].pci}$cell.rat'55' # six digits\n"
+                                   "nv = read-nv 7 0\n"
+                                   "load-atom-application strings='[\"$nv\",'$cell.neighbours[5].rat']'\n");
+    EXPECT_EQ(run.status, 2); // the last line's list holds a number
+    EXPECT_THAT(run.output, HasSubstr(R"("data":"102555")"));
+    EXPECT_THAT(run.output, HasSubstr("strings[1]: 4 is not a text"));
+}
+
+TEST(Radioctl, WatchesCells)
+{
+    const Ran run = radioctl("watch get-all-cellular-cell-info --every 10 --count 2");
+    EXPECT_EQ(run.status, 0);
+    const std::regex serving(R"(serving +NR +78 +627264 +101 +-85 +-10 +18  ▂▄▆█\n)");
+    using Lines = std::sregex_iterator;
+    EXPECT_EQ(std::distance(Lines(run.output.begin(), run.output.end(), serving), Lines()), 2);
+}
+
+TEST(Radioctl, CompletesAndDescribesItself)
+{
+    const std::string script = "bash -c '. <(\"" RADIOCTL "\" completion bash); COMP_CWORD=$(($# - 1)); "
+                               "COMP_WORDS=(\"$@\"); _radioctl; echo ${COMPREPLY[@]}' - radioctl ";
+    const std::pair<const char*, const char*> rows[] = {
+        {"--device x set-ca-st", "set-ca-status\n"},
+        {"--json set-ca-status lte ''", "on off\n"},
+        {"events test ''", "\n"},
+        {"watch get-lte-c", "get-lte-cell-info\n"},
+        {"--js", "--json\n"},
+    };
+    for (const auto& [words, completed] : rows) {
+        EXPECT_EQ(shell(script + words).output, completed) << words;
+    }
+    const std::string page = radioctl("man").output;
+    for (const json& request : json::parse(radioctl("list --json").output)) {
+        std::string name = request.at("name");
+        name = std::regex_replace(name, std::regex("-"), "\\-");
+        EXPECT_THAT(page, HasSubstr("\n.B " + name));
+    }
+    const std::regex strayMacro(R"(\n[.'](?!(TH|SH|SS|TP|B|BR|RS|RE|nf|fi)\b))");
+    EXPECT_FALSE(std::regex_search(page, strayMacro));
+}
+
 TEST(Radioctl, TakesAsManyElementsAsARecordHolds)
 {
     const struct {
@@ -501,6 +552,17 @@ TEST(Radioctl, TellsWhatWentWrong)
         {"batch -", "read-nv 424242 0\nget-rrc-status\n", 1, "stopped at -:1"},
         {"batch -", "read-nv \"1\n", 2, "\" is not closed"},
         {"batch /no/such/file", "", 2, "can't read /no/such/file"},
+        {"batch -", "\nread-nv $x 0\n", 2, "no earlier line sets '$x'\nradioctl: stopped at -:2"},
+        {"batch -", "c = get-rrc-status\nread-nv $c.foo 0\n", 2,
+         "there is no member 'foo' in {\"status\":2}"},
+        {"batch -", "c = get-rrc-status\nread-nv $c.status[0] 0\n", 2, "there is no element 0 in 2"},
+        {"batch -", "c = get-rrc-status\nread-nv ${c.status 0\n", 2, "'${c' is not closed"},
+        {"batch -", "7c = get-rrc-status\n", 2, "an assignment is NAME = REQUEST"},
+        {"batch -", "c = sim state\n", 2, "no request is called 'sim'"},
+        {"watch", "", 2, "watch wants a REQUEST"},
+        {"watch get-rrc-status --every 0", "", 2, "--every"},
+        {"watch read-nv 424242 0", "", 1, "the modem reported a failure"},
+        {"completion fish", "", 2, "bash or zsh"},
     };
     for (const auto& row : cases) {
         const Ran run = radioctl(row.arguments, row.input);

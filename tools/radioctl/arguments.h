@@ -3,10 +3,12 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <any>
 #include <charconv>
 #include <cstdint>
 #include <functional>
+#include <iterator>
 #include <limits>
 #include <optional>
 #include <span>
@@ -34,8 +36,9 @@ struct Argument {
     std::string help; ///< what it means, with its unit
     std::string form; ///< how it is written, with its range
     Parser parse;
-    bool takesRest = false; ///< takes all words that are left, even none, instead of one
-    std::string details;    ///< further lines of help
+    bool takesRest = false;                ///< takes all words that are left, even none, instead of one
+    std::string details;                   ///< further lines of help
+    std::vector<std::string> choices = {}; ///< names of values
 };
 
 template <typename T>
@@ -101,27 +104,26 @@ inline const Names<T> kOnOff = {{"on", T{1}}, {"off", T{0}}};
 template <typename T>
 Argument choice(const std::string& name, std::string help, const Names<T>& names)
 {
-    std::string form;
-    for (const auto& [word, value] : names) {
-        form += (form.empty() ? "" : ", ") + word;
-    }
+    std::vector<std::string> words;
+    std::ranges::transform(names, std::back_inserter(words), &Names<T>::value_type::first);
+    std::string form = fmt::format("{}", fmt::join(words, ", "));
     form += std::is_same_v<T, bool> ? "" : " or a number";
-    const auto parse = [=](std::span<const std::string> words) -> std::any {
+    const auto parse = [=](std::span<const std::string> given) -> std::any {
         for (const auto& [word, value] : names) {
-            if (word == words.front()) {
+            if (word == given.front()) {
                 return value;
             }
         }
         if constexpr (!std::is_same_v<T, bool>) {
             using Number = typename std::conditional_t<std::is_enum_v<T>, std::underlying_type<T>,
                                                        std::type_identity<T>>::type;
-            if (const auto value = toNumber<Number>(words.front())) {
+            if (const auto value = toNumber<Number>(given.front())) {
                 return static_cast<T>(*value);
             }
         }
-        throw UsageError(fmt::format("{}: '{}' is none of {}", name, words.front(), form));
+        throw UsageError(fmt::format("{}: '{}' is none of {}", name, given.front(), form));
     };
-    return {name, std::move(help), form, parse};
+    return {name, std::move(help), form, parse, false, "", words};
 }
 
 /// A bool: 0 or 1.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "radioctl/session.h"
+#include "radioctl/variables.h"
 
 #include <istream>
 #include <string>
@@ -10,11 +11,19 @@
 namespace radioctl {
 
 /// The words of one line, as a shell would split it: blanks separate, quotes keep them, # begins a comment.
-/// Throws UsageError for a quote without end.
-std::vector<std::string> splitWords(std::string_view line);
+/// With `variables`, what stands behind a dollar sign outside single quotes is put in, never split again.
+/// Throws UsageError for a quote without end and for a variable that isn't there.
+std::vector<std::string> splitWords(std::string_view line, const Variables* variables = nullptr);
+
+struct BatchOptions {
+    std::string inputName; ///< for messages
+    bool json = false;
+    bool progress = false; ///< a line on standard error that tells how far it is
+};
 
 /// Runs each line of `input` as one command, in order, and stops at the first that does not succeed; its
-/// place is told on standard error. Returns the exit status.
-int runBatch(std::istream& input, const std::string& inputName, const Session& session, bool json);
+/// place is told on standard error. NAME = REQUEST ARGS... keeps the answer's record as a variable. Returns
+/// the exit status.
+int runBatch(std::istream& input, const BatchOptions& options, const Session& session);
 
 } // namespace radioctl

@@ -115,6 +115,16 @@ sim fault-clear
 sim load SCENARIO.json
 sim restart)";
 
+RequestCall parseRequest(std::span<const std::string> words)
+{
+    const Request* request = findRequest(words.front());
+    if (request == nullptr) {
+        throw UsageError(
+            fmt::format("no request is called '{}'; 'radioctl list' shows them all", words.front()));
+    }
+    return {request, Arguments(request->arguments, words.subspan(1))};
+}
+
 Command parseCommand(const std::vector<std::string>& words, bool json)
 {
     const std::string& name = words.front();
@@ -123,13 +133,8 @@ Command parseCommand(const std::vector<std::string>& words, bool json)
         return
             [command = parseSimulation(rest), json](const Session&) { return runSimulation(command, json); };
     }
-    const Request* request = findRequest(name);
-    if (request == nullptr) {
-        throw UsageError(fmt::format("no request is called '{}'; 'radioctl list' shows them all", name));
-    }
-    return [request, arguments = Arguments(request->arguments, {rest.begin(), rest.end()}),
-            json](const Session& session) {
-        return printOutcome(*request, session.run(*request, arguments), json);
+    return [call = parseRequest(words), json](const Session& session) {
+        return printOutcome(*call.request, session.run(*call.request, call.arguments), json);
     };
 }
 

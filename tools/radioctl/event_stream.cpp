@@ -1,31 +1,16 @@
 #include "radioctl/event_stream.h"
 
 #include "radioctl/print.h"
+#include "radioctl/signals.h"
 
 #include <fmt/chrono.h>
 #include <fmt/format.h>
 
-#include <atomic>
 #include <chrono>
-#include <csignal>
-#include <unistd.h>
 
 namespace radioctl {
 
 namespace {
-
-/// Sent to this process when enough events came.
-constexpr int kEnough = SIGUSR1;
-
-sigset_t endingSignals()
-{
-    sigset_t signals;
-    sigemptyset(&signals);
-    for (const int signal : {SIGINT, SIGTERM, kEnough}) {
-        sigaddset(&signals, signal);
-    }
-    return signals;
-}
 
 /// What the listeners share; they run one after the other, on the delivery thread.
 struct Stream {
@@ -66,7 +51,7 @@ void onEvent(RADIO_EVENT_TYPE type, void* user, void* data, int length)
     }
     print(stream, *event, event->show(data));
     if (++stream.printed == wanted) {
-        kill(getpid(), kEnough);
+        raiseEnd();
     }
 }
 
@@ -98,12 +83,6 @@ bool subscribe()
 
 } // namespace
 
-void holdSignals()
-{
-    const sigset_t signals = endingSignals();
-    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
-}
-
 int streamEvents(const StreamOptions& options, const std::function<int()>& whenSubscribed)
 {
     Stream stream{options};
@@ -116,9 +95,7 @@ int streamEvents(const StreamOptions& options, const std::function<int()>& whenS
     }
     const int status = whenSubscribed();
     if (status == kExitSuccess) {
-        const sigset_t signals = endingSignals();
-        int signal = 0;
-        sigwait(&signals, &signal);
+        awaitEnd();
     }
     // No listener runs any more after this.
     radioApisReleaseService(RADIO_APIS_SERVICE_MODEM);

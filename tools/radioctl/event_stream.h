@@ -14,12 +14,8 @@ struct StreamOptions {
     bool json = false;
 };
 
-/// Keeps SIGINT and SIGTERM for streamEvents. To be called before the library is opened, whose threads
-/// inherit it.
-void holdSignals();
-
-/// Subscribes, calls `whenSubscribed`, and prints events until enough came or a signal does; then ends the
-/// subscriptions. Throws UsageError for an unknown name; returns the exit status.
+/// Subscribes, calls `whenSubscribed`, and prints events until enough came or a signal does, for which
+/// holdSignals() was called; then ends the subscriptions. Throws UsageError for an unknown name; returns the exit status.
 int streamEvents(const StreamOptions& options, const std::function<int()>& whenSubscribed);
 
 /// All events' names, one per line.

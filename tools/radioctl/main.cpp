@@ -3,6 +3,9 @@
 #include "radioctl/command.h"
 #include "radioctl/event_stream.h"
 #include "radioctl/print.h"
+#include "radioctl/program.h"
+#include "radioctl/signals.h"
+#include "radioctl/watch.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
@@ -10,48 +13,94 @@
 #include <algorithm>
 #include <fstream>
 #include <iostream>
+#include <unistd.h>
 
 namespace {
 
 using namespace radioctl;
-
-struct Options {
-    SessionOptions session;
-    bool json = false;
-    std::vector<std::string> words; ///< the command and its arguments
-};
-
-constexpr char kFooter[] = R"(
-Commands:
-  list              all requests
-  batch FILE        run the commands in FILE, one per line; - is standard input
-  events [NAMES]    print events as they come; events --help tells their names
-  sim COMMAND       command the simulated modem: sim --help
-  REQUEST [ARGS]    send one request and print its answer
-  REQUEST --help    tell its arguments
-
-Exit status: 0 success, 1 refused or failed, 2 wrong usage, 3 no answer in time.)";
 
 bool isHelp(const std::string& word)
 {
     return word == "--help" || word == "-h";
 }
 
+/// The words behind the command, as CLI11 wants them: the last one first.
+std::vector<std::string> commandWords(const Options& options)
+{
+    return {options.words.rbegin(), options.words.rend() - 1};
+}
+
+constexpr char kBatchFooter[] = R"(
+Each line is a command as it stands behind radioctl; # begins a comment.
+  cell = get-serving-cellular-cell-info    keeps the answer's record
+  write-nv 7 0 0$cell.rat                  puts a value of it in
+Values: $NAME.MEMBER, $NAME.LIST[0].MEMBER, ${NAME.MEMBER}; $$ is a dollar
+sign. Within single quotes a dollar sign is only that.)";
+
 int batch(const Options& options)
 {
-    if (options.words.size() != 2) {
-        throw UsageError("batch wants one FILE; - is standard input");
+    CLI::App app("Run the commands in a file, one per line, until one fails.", "radioctl batch");
+    BatchOptions batch;
+    app.add_option("FILE", batch.inputName, "the file; - is standard input")->required();
+    app.footer(kBatchFooter);
+    try {
+        app.parse(commandWords(options));
+    } catch (const CLI::CallForHelp&) {
+        fmt::print("{}", app.help());
+        return kExitSuccess;
     }
-    const std::string& name = options.words[1];
+    const bool isFile = batch.inputName != "-";
     std::ifstream file;
-    if (name != "-") {
-        file.open(name);
+    if (isFile) {
+        file.open(batch.inputName);
         if (!file) {
-            throw UsageError(fmt::format("can't read {}", name));
+            throw UsageError(fmt::format("can't read {}", batch.inputName));
         }
     }
+    batch.json = options.json;
+    // Where the answers go to the terminal they tell enough.
+    batch.progress = isFile && isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
     const Session session(options.session);
-    return runBatch(name == "-" ? std::cin : file, name, session, options.json);
+    return runBatch(isFile ? file : std::cin, batch, session);
+}
+
+int watch(const Options& options)
+{
+    CLI::App app("Send one request again and again and show its answer.", "radioctl watch");
+    WatchOptions how;
+    unsigned every = 1000;
+    app.add_option("--every", every, "the time from one to the next, in ms (default 1000)")
+        ->check(CLI::Range(10, 3600000));
+    app.add_option("--count", how.count, "stop after so many answers (default: at Ctrl-C)")
+        ->check(CLI::PositiveNumber);
+    app.allow_extras();
+    app.footer("\nWhat is none of these options is the request and its arguments.");
+    try {
+        app.parse(commandWords(options));
+    } catch (const CLI::CallForHelp&) {
+        fmt::print("{}", app.help());
+        return kExitSuccess;
+    }
+    const std::vector<std::string> words = app.remaining();
+    if (words.empty()) {
+        throw UsageError("watch wants a REQUEST; 'radioctl list' tells them");
+    }
+    const RequestCall call = parseRequest(words);
+    how.every = std::chrono::milliseconds(every);
+    how.json = options.json;
+    holdSignals();
+    const Session session(options.session);
+    return radioctl::watch(how, *call.request, call.arguments, session);
+}
+
+int completion(const Options& options)
+{
+    const std::string shell = options.words.size() == 2 ? options.words[1] : "";
+    if (shell != "bash" && shell != "zsh") {
+        throw UsageError("completion wants a shell: bash or zsh");
+    }
+    fmt::print("{}", shell == "bash" ? bashCompletion() : zshCompletion());
+    return kExitSuccess;
 }
 
 int events(const Options& options)
@@ -66,9 +115,8 @@ int events(const Options& options)
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
     app.footer("Events:\n" + eventList());
-    std::vector<std::string> words(options.words.rbegin(), options.words.rend() - 1);
     try {
-        app.parse(words);
+        app.parse(commandWords(options));
     } catch (const CLI::CallForHelp&) {
         fmt::print("{}", app.help());
         return kExitSuccess;
@@ -99,11 +147,16 @@ int run(const Options& options)
         fmt::print("{}", requestList(options.json));
         return kExitSuccess;
     }
-    if (name == "batch") {
-        return batch(options);
+    if (name == "man") {
+        fmt::print("{}", manPage());
+        return kExitSuccess;
     }
-    if (name == "events") {
-        return events(options);
+    constexpr std::pair<std::string_view, int (*)(const Options&)> kPrograms[] = {
+        {"batch", batch}, {"events", events}, {"watch", watch}, {"completion", completion}};
+    for (const auto& [program, runIt] : kPrograms) {
+        if (name == program) {
+            return runIt(options);
+        }
     }
     if (wantsHelp && name == "sim") {
         fmt::print("{}\n", kSimUsage);
@@ -124,23 +177,11 @@ int main(int argc, char** argv)
 {
     CLI::App app("Requests to the vendor features of a cellular modem.", "radioctl");
     Options options;
-    unsigned timeout = 10000;
-    app.add_option("--device", options.session.device,
-                   "embedded, embedded:SCENARIO.json or unix:PATH (default: what the device file names)");
-    app.add_option("--instance", options.session.instance, "the modem instance, 0 to 2")
-        ->check(CLI::Range(0, 2));
-    app.add_option("--timeout", timeout, "how long to wait for an answer, in ms")
-        ->check(CLI::Range(1, 3600000));
-    app.add_flag("--json", options.json, "print one JSON object per answer");
-    app.add_flag("--trace", options.session.trace, "show every message on standard error");
-    app.footer(kFooter);
-    // What is no option of radioctl's own is the command's, wherever it stands.
-    app.allow_extras();
-    app.set_help_flag();
+    addOptions(app, options);
     try {
         app.parse(argc, argv);
         options.words = app.remaining();
-        options.session.timeout = std::chrono::milliseconds(timeout);
+        options.session.timeout = std::chrono::milliseconds(options.timeout);
         options.session.traceJson = options.json;
         if (options.words.empty()) {
             throw UsageError("no command; 'radioctl --help' tells them");
