@@ -99,8 +99,7 @@ std::string manPage()
     text += ".SH REQUESTS\n" + requestEntries();
     text += ".SH EXIT STATUS\n" + entries(kExitStatus);
     text += ".SH ENVIRONMENT\n" + entries(kEnvironment);
-    text += ".SH FILES\n" + entries(kFiles);
-    return text + ".SH SEE ALSO\n.BR modem\\-sim\n";
+    return text + ".SH FILES\n" + entries(kFiles);
 }
 
 } // namespace radioctl
