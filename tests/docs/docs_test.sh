@@ -8,14 +8,17 @@ trap 'rm -rf "$work"' EXIT
 "$protocol_page" | diff "$source/docs/protocol.md" -
 sed -n '/^```cpp$/,/^```$/p' "$source/README.md" | sed '1d;$d' | diff - "$source/examples/client/main.cpp"
 
-# The blocks run with the built programs; ./dev run is radioctl with the example device.
+# The blocks run with the built programs, which ./dev run and ./dev modem-sim would build first.
 mkdir "$work/bin"
 ln -s "$radioctl" "$work/bin/radioctl"
 ln -s "$modem_sim" "$work/bin/modem-sim"
 cat >"$work/bin/dev" <<END
 #!/usr/bin/env bash
-[ "\$1" = run ]
-exec "$radioctl" "\${@:2}"
+case \$1 in
+run) exec "$radioctl" "\${@:2}" ;;
+modem-sim) exec "$modem_sim" "\${@:2}" ;;
+esac
+exit 2
 END
 chmod +x "$work/bin/dev"
 export PATH=$work/bin:$PATH RADIO_LOG=off RADIO_DEVICE_ROOT=$source/examples/device
