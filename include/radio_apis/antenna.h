@@ -1,3 +1,4 @@
+/// @file
 /// Antennas, transmitters and transmit power limits.
 #pragma once
 
@@ -5,7 +6,7 @@
 
 #include <cstdint>
 
-inline constexpr unsigned kRadioMaxTxCarkitBytes = 512;
+inline constexpr unsigned kRadioMaxTxCarkitBytes = 512; ///< bytes of the longest answer
 
 /// Result of radioGetTxCarkit.
 struct RadioTxCarkit {
@@ -19,6 +20,7 @@ extern "C" {
 /// Sets the state of the antenna optimisation logic.
 ///
 /// @param state     passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetAolState(int state, void* userData, RadioRequestCallback callback);
@@ -26,6 +28,7 @@ RADIO_API int radioSetAolState(int state, void* userData, RadioRequestCallback c
 /// Switches the limit to the maximum transmit power level.
 ///
 /// @param state     passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetMtplLimitState(int state, void* userData, RadioRequestCallback callback);
@@ -33,6 +36,7 @@ RADIO_API int radioSetMtplLimitState(int state, void* userData, RadioRequestCall
 /// Fixes the antenna in use, or releases it.
 ///
 /// @param state     passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetAntFixState(int state, void* userData, RadioRequestCallback callback);
@@ -40,6 +44,7 @@ RADIO_API int radioSetAntFixState(int state, void* userData, RadioRequestCallbac
 /// Blocks an antenna, or releases it.
 ///
 /// @param state     passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetAntBlockState(int state, void* userData, RadioRequestCallback callback);
@@ -48,6 +53,7 @@ RADIO_API int radioSetAntBlockState(int state, void* userData, RadioRequestCallb
 ///
 /// @param rat       0 to 3, sent as a message; 4 (NR), sent as an AT command; others are refused
 /// @param state     0: off, 1: on
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict; for rats 0 to 3 the record is null when that is a
 ///                  failure, for rat 4 it is empty in any case where the modem answered the command
 /// @return 0 when handed to the modem; 1 for another rat, even without an initialised instance, or when
@@ -59,6 +65,7 @@ RADIO_API int radioSetAntForceStateByRat(int rat, int state, void* userData, Rad
 /// @param rat       radio access technology, passed through
 /// @param band      operating band
 /// @param mode      passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radiosetTxPathFilter(signed char rat, int band, int mode, void* userData,
@@ -71,6 +78,7 @@ RADIO_API int radiosetTxPathFilter(signed char rat, int band, int mode, void* us
 /// @param uiBand     the band's number; its low 16 bits are sent
 /// @param subband    not sent
 /// @param option     not sent
+/// @param userData   handed to `callback`
 /// @param callback   called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.txCarkit`; on the
 ///                   modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -80,6 +88,7 @@ RADIO_API int radioGetTxCarkit(int radioTech, int uiBand, int subband, int optio
 /// Chooses the scenario of the antenna optimisation logic.
 ///
 /// @param scenario  as the modem numbers it
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused

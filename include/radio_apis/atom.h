@@ -1,3 +1,4 @@
+/// @file
 /// Atoms: small applications inside the modem that collect data.
 #pragma once
 
@@ -5,8 +6,8 @@
 
 #include <cstdint>
 
-inline constexpr unsigned kRadioMaxAtomStrings = 16;
-inline constexpr unsigned kRadioMaxAtomValues = 32;
+inline constexpr unsigned kRadioMaxAtomStrings = 16; ///< of one application
+inline constexpr unsigned kRadioMaxAtomValues = 32;  ///< of one application
 
 /// The application to load.
 struct RadioLoadAtomApplicationType {
@@ -15,22 +16,22 @@ struct RadioLoadAtomApplicationType {
     uint32_t stringCount;                   ///< at most 16; more are not sent
     char strings[kRadioMaxAtomStrings][64]; ///< each ends at its first NUL
     uint32_t valueCount;                    ///< at most 32; more are not sent
-    int32_t values[kRadioMaxAtomValues];
-    uint8_t block[284]; ///< sent as it is
+    int32_t values[kRadioMaxAtomValues];    ///< the first `valueCount` count
+    uint8_t block[284];                     ///< sent as it is
 };
 
 /// An atom and a mask of its events. As on the wire.
 struct RadioAtomMask {
-    int32_t id;
-    uint32_t mask;
+    int32_t id;    ///< the atom's number
+    uint32_t mask; ///< bits as the atom defines them
 };
 
 /// What an atom reports. As on the wire.
 struct RadioAtomInfoType {
-    uint32_t maskCount; ///< entries of `masks` that count, at most 40
-    RadioAtomMask masks[40];
-    uint32_t parameterCount; ///< entries of `parameters` that count, at most 4
-    RadioAtomMask parameters[4];
+    uint32_t maskCount;          ///< entries of `masks` that count, at most 40
+    RadioAtomMask masks[40];     ///< the first `maskCount` count
+    uint32_t parameterCount;     ///< entries of `parameters` that count, at most 4
+    RadioAtomMask parameters[4]; ///< the first `parameterCount` count
 };
 static_assert(sizeof(RadioAtomInfoType) == 324 + 36);
 
@@ -39,6 +40,7 @@ extern "C" {
 /// Loads an application.
 ///
 /// @param application  see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioLoadAtomApplication(const RadioLoadAtomApplicationType& application, void* userData,
@@ -47,6 +49,7 @@ RADIO_API int radioLoadAtomApplication(const RadioLoadAtomApplicationType& appli
 /// Unloads an application.
 ///
 /// @param id        its number
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioUnloadAtomApplication(int id, void* userData, RadioRequestCallback callback);
@@ -57,6 +60,7 @@ RADIO_API int radioUnloadAtomApplication(int id, void* userData, RadioRequestCal
 /// @param status    its status, passed through
 /// @param subPolicy passed through
 /// @param info      what it reports
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetAtomStatus(int id, int status, int subPolicy, const RadioAtomInfoType& info,
@@ -68,6 +72,7 @@ RADIO_API int radioSetAtomStatus(int id, int status, int subPolicy, const RadioA
 /// @param option    passed through
 /// @param ids       which atoms; may be null when `count` is 0
 /// @param count     their number, at most 65535
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.atomData`
 /// @return 0 when handed to the modem; 11 for null ids or too many of them; 1 when refused otherwise
 RADIO_API int radioGetAtomData(int type, int option, int* ids, unsigned int count, void* userData,

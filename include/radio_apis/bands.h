@@ -1,3 +1,4 @@
+/// @file
 /// Frequency bands: those that the modem may use, and those it could (3GPP TS 36.101, 38.101, 25.101, 45.005).
 ///
 /// Bands cross this interface as bytes, most significant first; which bit stands for which band depends on the
@@ -30,24 +31,24 @@ enum RadioBandRat : int32_t {
 /// Added to a RadioBandRat: the bands in use instead of those that could be.
 inline constexpr int32_t kRadioCurrentBands = 0x10000;
 
-inline constexpr unsigned kRadioMaxBandBytes = 256;
+inline constexpr unsigned kRadioMaxBandBytes = 256; ///< bytes of the longest list of bands
 
 /// Result of radioGetBandPrefer.
 struct RadioBandPrefer {
-    int32_t rat;     ///< a RadioBandRat
-    int32_t current; ///< 1: the bands in use; 0: those that could be
-    uint32_t length; ///< bytes of `bands` that count
-    uint8_t bands[kRadioMaxBandBytes];
+    int32_t rat;                       ///< a RadioBandRat
+    int32_t current;                   ///< 1: the bands in use; 0: those that could be
+    uint32_t length;                   ///< bytes of `bands` that count
+    uint8_t bands[kRadioMaxBandBytes]; ///< as the head of this file tells
 };
 
-inline constexpr unsigned kRadioMaxLteBandWords = 16;
+inline constexpr unsigned kRadioMaxLteBandWords = 16; ///< words of 32 LTE bands
 
 /// Result of radioGetAvailableBandModes. The masks have the bits that the head of this file tells.
 struct RadioBandModes {
-    uint32_t gsm;
-    uint32_t umts;
-    uint32_t lteWords; ///< words of `lte` that count
-    uint32_t lte[kRadioMaxLteBandWords];
+    uint32_t gsm;                        ///< the bands of GSM
+    uint32_t umts;                       ///< the bands of UMTS
+    uint32_t lteWords;                   ///< words of `lte` that count
+    uint32_t lte[kRadioMaxLteBandWords]; ///< the bands of LTE, the lowest ones first
 };
 
 /// Result of radioGetBand. For LTE and NR bit n-1 stands for band n; for the others bits are those of user
@@ -72,6 +73,7 @@ extern "C" {
 /// @param bands     bytes as the head of this file tells; of GSM, UMTS and CDMA the first four count
 /// @param length    bytes, a multiple of 4. The command has room for `length` + 127 characters and is cut
 ///                  there, which NR reaches above 112 bytes and LTE with many large numbers
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the bands, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem; 1 when refused, as for null bands, any other length or another rat
@@ -81,6 +83,7 @@ RADIO_API int radioSetBandPrefer(int rat, const unsigned char* bands, unsigned i
 /// The bands of one radio access technology.
 ///
 /// @param rat       a RadioBandRat, with kRadioCurrentBands added for the bands in use; CDMA has only those
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandPrefer`; with RADIO_APIS_FAILURE and a
 ///                  record without bands when the answer has none that can be read; or with the modem's failure
 ///                  and no record
@@ -89,6 +92,7 @@ RADIO_API int radioGetBandPrefer(int rat, void* userData, RadioRequestCallback c
 
 /// The bands in use with GSM, UMTS and LTE.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandModes`; with RADIO_APIS_FAILURE and a
 ///                  zeroed record when the answer lacks the masks of GSM and UMTS or has something else than
 ///                  numbers; or with the modem's failure and no record
@@ -100,6 +104,7 @@ RADIO_API int radioGetAvailableBandModes(void* userData, RadioRequestCallback ca
 /// active technology. It stays on.
 ///
 /// @param nwType    RADIO_BAND_GSM, _UMTS, _CDMA, _LTE or _NR
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandInfo`; with RADIO_APIS_FAILURE and a
 ///                  zeroed record when the answer can't be read or, for CDMA, a step failed; or with the
 ///                  modem's failure and no record
@@ -111,6 +116,7 @@ RADIO_API int radioGetBand(int nwType, void* userData, RadioRequestCallback call
 /// @param radioTech  radio access technology, as the modem numbers them
 /// @param uiBand     the band
 /// @param subband    part of the band; logged, since the modem's answer is for the whole band
+/// @param userData   handed to `callback`
 /// @param callback   called once with RADIO_APIS_SUCCESS and `rsp.bandTxNumInfo`, or with RADIO_APIS_FAILURE
 ///                   and a zeroed record when the modem refused or answered no number
 /// @return 0 once started, also when the modem then can't be reached

@@ -1,3 +1,4 @@
+/// @file
 /// Where the modem searches for cells and camps: receive levels, locks, barring, order of technologies
 /// (3GPP TS 36.304, TS 38.304).
 #pragma once
@@ -11,14 +12,14 @@ struct RadioQrxlvminCfgInfo {
     int32_t enable; ///< of options 13 and 14: 0 off, anything else on
     int32_t option; ///< 11: the values for LTE; 12: those for NR; 13: the switch for LTE; 14: the one for NR
     int32_t q1;     ///< q1 to q3: LTE
-    int32_t q2;
-    int32_t q3;
-    int32_t q4; ///< q4 to q9: NR
-    int32_t q5;
-    int32_t q6;
-    int32_t q7;
-    int32_t q8;
-    int32_t q9;
+    int32_t q2;     ///< LTE
+    int32_t q3;     ///< LTE
+    int32_t q4;     ///< q4 to q9: NR
+    int32_t q5;     ///< NR
+    int32_t q6;     ///< NR
+    int32_t q7;     ///< NR
+    int32_t q8;     ///< NR
+    int32_t q9;     ///< NR
 };
 static_assert(sizeof(RadioQrxlvminCfgInfo) == 44);
 
@@ -40,9 +41,9 @@ static_assert(sizeof(RadioArrearageCfgInfo) == 92);
 struct RadioLockCellInfoType {
     int32_t lockType;      ///< 0, 3, 4 or 5
     int32_t bandIndicator; ///< 0 or 1
-    int32_t arfcn;
-    int32_t pci;  ///< physical cell identity
-    int32_t mode; ///< 1 and 2 each add a last value to the command, others don't
+    int32_t arfcn;         ///< downlink EARFCN or NR-ARFCN
+    int32_t pci;           ///< physical cell identity
+    int32_t mode;          ///< 1 and 2 each add a last value to the command, others don't
 };
 static_assert(sizeof(RadioLockCellInfoType) == 20);
 
@@ -54,6 +55,7 @@ extern "C" {
 /// @param rat                  1: for LTE while in 3G or 2G; 0: for NR while in LTE, 3G or 2G
 /// @param ignoreNeighbourList  whether frequencies outside of the neighbour list count
 /// @param enable               whether to search
+/// @param userData             handed to `callback`
 /// @param callback             called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                             RADIO_APIS_FAILURE at the first that it did not; the record is empty
 /// @return 0 once started, also when the modem then can't be reached; 1 for another rat
@@ -63,6 +65,7 @@ RADIO_API int radioSetBackgroundSearch(int rat, bool ignoreNeighbourList, bool e
 /// Sets the least receive levels.
 ///
 /// @param info      see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for another option
@@ -72,6 +75,7 @@ RADIO_API int radioSetQrxlvminCfg(const RadioQrxlvminCfgInfo& info, void* userDa
 /// The least receive levels.
 ///
 /// @param rat       13: LTE, 20: NR
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.qrxlvmin`; with RADIO_APIS_FAILURE and a zeroed
 ///                  record when the modem refused or the answer has another number of values; or with the
 ///                  modem's failure and no record
@@ -81,6 +85,7 @@ RADIO_API int radioGetQrxlvminCfg(int rat, void* userData, RadioRequestCallback 
 /// Sets what happens for a SIM card in arrears.
 ///
 /// @param info      see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for another option
@@ -90,6 +95,7 @@ RADIO_API int radioSetArrearageCfg(const RadioArrearageCfgInfo& info, void* user
 /// Has the modem forget the frequencies that it remembers.
 ///
 /// @param option    logged only
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
 /// @return 0 once started, also when the modem then can't be reached
@@ -100,6 +106,7 @@ RADIO_API int radioClearStoredFrequency(int option, void* userData, RadioRequest
 /// @param rats      in order of preference, numbered as in RadioBandRat: 4 LTE, 5 NR, 1 UMTS, 0 GSM. The first
 ///                  one decides: LTE before NR, or NR before LTE
 /// @param count     LTE first: 3 or 4, since NR may be left out; NR first: 4
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for null, another count or another first
@@ -109,6 +116,7 @@ RADIO_API int radioSetRatScan(int* rats, int count, void* userData, RadioRequest
 /// Keeps the modem on one cell.
 ///
 /// @param info      see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for a lock type or band indicator that
@@ -118,6 +126,7 @@ RADIO_API int radioLockCellAndBand(RadioLockCellInfoType info, void* userData, R
 /// Ends the lock of a cell.
 ///
 /// @param option    not sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -126,6 +135,7 @@ RADIO_API int radioUnlockCellAndBand(int option, void* userData, RadioRequestCal
 /// Sets whether a cell is barred after every radio link failure.
 ///
 /// @param value     0 off, 1 on
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -139,6 +149,7 @@ RADIO_API int radioEnableCellBarring(unsigned char value, void* userData, RadioR
 /// @param period    in which time changes are counted
 /// @param hitCnt    how many changes are too many
 /// @param reserve   logged only
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
 /// @return 0 once started, also when the modem then can't be reached; 1 for another type
@@ -149,6 +160,7 @@ RADIO_API int radioSetPingpongBarSetting(int type, int barTime, int period, int 
 ///
 /// @param rat       4: LTE, 5: NR
 /// @param reserve   not sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for another rat
@@ -156,7 +168,13 @@ RADIO_API int radioPerformRetHighRat(int rat, int reserve, void* userData, Radio
 
 /// Sets what the modem does when redirections from LTE to NR keep failing.
 ///
-/// @param value     as the modem defines it; the other five are not sent
+/// @param value     as the modem defines it
+/// @param value2    not sent
+/// @param value3    not sent
+/// @param value4    not sent
+/// @param value5    not sent
+/// @param value6    not sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -165,7 +183,12 @@ RADIO_API int radioSetRedirectOptSetting(int value, int value2, int value3, int 
 
 /// Sets whether the attach of the SIM card without data service comes last.
 ///
-/// @param value     as the modem defines it; the other four are not sent
+/// @param value     as the modem defines it
+/// @param value2    not sent
+/// @param value3    not sent
+/// @param value4    not sent
+/// @param value5    not sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused

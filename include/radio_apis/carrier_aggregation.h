@@ -1,3 +1,4 @@
+/// @file
 /// Carrier aggregation, bandwidth parts and dynamic spectrum sharing (3GPP TS 36.300, TS 38.300).
 #pragma once
 
@@ -31,6 +32,7 @@ extern "C" {
 ///
 /// @param rat       4: LTE, 5: NR
 /// @param enable    on or off
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for another rat
@@ -39,6 +41,7 @@ RADIO_API int radioSetCaStatus(int rat, bool enable, void* userData, RadioReques
 /// Whether carrier aggregation is on.
 ///
 /// @param rat       4: LTE, 5: NR
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.caInfo`, zero when the answer is no number; with
 ///                  RADIO_APIS_FAILURE and a zeroed record when the modem refused or answered no field; or with
 ///                  the modem's failure and no record
@@ -49,6 +52,7 @@ RADIO_API int radioGetCaStatus(int rat, void* userData, RadioRequestCallback cal
 ///
 /// @param value     0 off, 1 on
 /// @param reserve   not sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -57,6 +61,7 @@ RADIO_API int radioSetNrcaConfig(unsigned char value, unsigned char reserve, voi
 
 /// Whether carrier aggregation of NR is on.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.nrcaConfig`, zero when the answer is no number; with
 ///                  RADIO_APIS_FAILURE and a zeroed record when the modem refused or answered no field; or with
 ///                  the modem's failure and no record
@@ -70,6 +75,7 @@ RADIO_API int radioReadNRCAConfig(void* userData, RadioRequestCallback callback)
 ///
 /// @param value     0 off, 1 on
 /// @param reserve   not sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -78,6 +84,7 @@ RADIO_API int radioSetBwpConfig(unsigned char value, unsigned char reserve, void
 
 /// Whether bandwidth parts of NR are on.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bwpConfig`, zero when the answer is no number; with
 ///                  RADIO_APIS_FAILURE and a zeroed record when the modem refused or answered no field; or with
 ///                  the modem's failure and no record
@@ -88,6 +95,7 @@ RADIO_API int radioGetBwpConfig(void* userData, RadioRequestCallback callback);
 ///
 /// @param list      the band combinations as the modem writes them; of a long text the command's 255th
 ///                  character is the last
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for null, or a control character or double
@@ -103,6 +111,7 @@ RADIO_API int radioSetWhiteNSANRCAConfig(const char* list, void* userData, Radio
 /// Empties one of the lists.
 ///
 /// @param list      2: the only ones next to LTE; 4: the only ones of standalone NR; 5: those it may not use
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -111,6 +120,7 @@ RADIO_API int radioResetSANSAWhiteList(int list, void* userData, RadioRequestCal
 /// Sets the band table of dynamic spectrum sharing.
 ///
 /// @param value     as the modem defines it
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -119,6 +129,7 @@ RADIO_API int radioSetDssConfig(int value, void* userData, RadioRequestCallback 
 /// Sets what else the modem does about dynamic spectrum sharing.
 ///
 /// @param value     as the modem defines it
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -126,6 +137,7 @@ RADIO_API int radioSetDssAdditionalConfig(int value, void* userData, RadioReques
 
 /// The band table of dynamic spectrum sharing.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.dssConfig`, zero when the answer is no number; with
 ///                  RADIO_APIS_FAILURE and a zeroed record when the modem refused or answered no field; or with
 ///                  the modem's failure and no record
@@ -136,6 +148,7 @@ RADIO_API int radioReadDssConfig(void* userData, RadioRequestCallback callback);
 ///
 /// @param lteBands  as the modem writes them
 /// @param nrBands   likewise
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for null, or a control character or double

@@ -1,3 +1,4 @@
+/// @file
 /// What the radio link looks like: serving cell, neighbours, RRC state (3GPP TS 36.331, TS 38.331).
 #pragma once
 
@@ -53,13 +54,13 @@ struct RadioNeighbourCell {
 };
 static_assert(sizeof(RadioNeighbourCell) == 32);
 
-inline constexpr unsigned kRadioMaxNeighbourCells = 64;
+inline constexpr unsigned kRadioMaxNeighbourCells = 64; ///< that an answer holds
 
 /// Result of radioGetAllCellularCellInfo.
 struct RadioAllCellInfo {
-    RadioServingCell serving;
-    uint32_t neighbourCount; ///< at most 64; further neighbours of the modem's answer are left out
-    RadioNeighbourCell neighbours[kRadioMaxNeighbourCells];
+    RadioServingCell serving; ///< the serving cell
+    uint32_t neighbourCount;  ///< at most 64; further neighbours of the modem's answer are left out
+    RadioNeighbourCell neighbours[kRadioMaxNeighbourCells]; ///< the first `neighbourCount` count
 };
 
 /// Result of radioGetRRCStatus.
@@ -78,12 +79,14 @@ RADIO_API int radioGetLteCellInfo(void* userData, RadioRequestCallback callback)
 
 /// State of the radio resource control. A failure of the modem is not told: the status is then 1.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.rrcStatus`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetRRCStatus(void* userData, RadioRequestCallback callback);
 
 /// The serving cell.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.servingCellInfo`, whose `failure` tells of
 ///                  the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
@@ -91,6 +94,7 @@ RADIO_API int radioGetServingCellularCellInfo(void* userData, RadioRequestCallba
 
 /// The serving cell and its neighbours.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.allCellInfo`, whose `serving.failure` tells
 ///                  of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused

@@ -1,3 +1,4 @@
+/// @file
 /// The functions that turn indications into events, for components that hold an indication themselves.
 ///
 /// Each reads the indication message (a vorn_msg_t), builds the event's record and calls `callback` once,

@@ -1,3 +1,4 @@
+/// @file
 /// What the device tells the modem about itself.
 #pragma once
 
@@ -21,13 +22,14 @@ struct RadioDeviceStateExt {
     int32_t deviceStateExt; ///< the state that the modem now assumes
 };
 
-inline constexpr unsigned kRadioMaxSidoIssueValues = 20;
+inline constexpr unsigned kRadioMaxSidoIssueValues = 20; ///< of one configuration
 
 extern "C" {
 
 /// Tells the modem whether the screen is on.
 ///
 /// @param screenState  0: off, 1: on; passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSendScreenState(int screenState, void* userData, RadioRequestCallback callback);
@@ -36,6 +38,7 @@ RADIO_API int radioSendScreenState(int screenState, void* userData, RadioRequest
 ///
 /// @param microMotionState  the motion detector's state, passed through
 /// @param multiplier        its multiplier, passed through
+/// @param userData          handed to `callback`
 /// @param callback          called once with RADIO_APIS_SUCCESS, whatever the modem said, and
 ///                          `rsp.microMotion`, whose `failure` tells of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
@@ -45,6 +48,7 @@ RADIO_API int radioSetMicroMotionState(int microMotionState, int multiplier, voi
 /// Tells the modem whether it should keep in step with the application processor.
 ///
 /// @param sync      passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSyncWithAp(int sync, void* userData, RadioRequestCallback callback);
@@ -53,6 +57,7 @@ RADIO_API int radioSetSyncWithAp(int sync, void* userData, RadioRequestCallback 
 ///
 /// @param feature   which feature, passed through
 /// @param state     its state, passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetFeatureState(int feature, int state, void* userData, RadioRequestCallback callback);
@@ -60,6 +65,7 @@ RADIO_API int radioSetFeatureState(int feature, int state, void* userData, Radio
 /// The state of a modem feature.
 ///
 /// @param feature   which feature
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.featureState`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetFeatureState(int feature, void* userData, RadioRequestCallback callback);
@@ -70,6 +76,7 @@ RADIO_API int radioGetFeatureState(int feature, void* userData, RadioRequestCall
 /// @param param1    its parameters, passed through
 /// @param param2    see `param1`
 /// @param param3    see `param1`
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioDispatchCase(unsigned int caseId, int param1, int param2, int param3, void* userData,
@@ -80,6 +87,7 @@ RADIO_API int radioDispatchCase(unsigned int caseId, int param1, int param2, int
 /// @param type      which kind
 /// @param values    the values; may be null when `count` is 0
 /// @param count     their number, at most 65535
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem; 11 for null values or too many of them; 1 when refused otherwise
 RADIO_API int radioSetDiagnoseConfig(unsigned int type, int* values, unsigned int count, void* userData,
@@ -89,6 +97,7 @@ RADIO_API int radioSetDiagnoseConfig(unsigned int type, int* values, unsigned in
 ///
 /// @param values    the values; not null
 /// @param count     their number, at most 20
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem; 11 for null values or too many of them; 1 when refused otherwise
 RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* userData,
@@ -97,6 +106,7 @@ RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* use
 /// Tells the modem an extended state of the device.
 ///
 /// @param deviceStateExt  as the modem defines it, passed through
+/// @param userData        handed to `callback`
 /// @param callback        called once with RADIO_APIS_SUCCESS, whatever the modem said, and
 ///                        `rsp.deviceStateExt`; on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -105,6 +115,7 @@ RADIO_API int radioSendDeviceStateExt(int deviceStateExt, void* userData, RadioR
 /// Sets the IMB state.
 ///
 /// @param state     as the modem defines it; its low 8 bits are sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
 ///                  library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -113,6 +124,7 @@ RADIO_API int radioSetImbState(int state, void* userData, RadioRequestCallback c
 /// Tells the modem how the device's screen is folded.
 ///
 /// @param state     as the modem numbers it
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -121,6 +133,7 @@ RADIO_API int radioUpdateFoldScreenStatus(int state, void* userData, RadioReques
 /// Sets the software version number of the device's identity (IMEISV, 3GPP TS 23.003).
 ///
 /// @param svn       0 to 99 for a valid identity; sent as two hexadecimal digits or more
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused

@@ -1,3 +1,4 @@
+/// @file
 /// Events that the modem raises by itself, and how to receive them.
 ///
 /// Two things are needed: the modem must be told to send an indication (radioRegisterVsEvent,
@@ -58,8 +59,8 @@ using RadioEventCallback = void (*)(RADIO_EVENT_TYPE event, void* userData, void
 
 /// One switch of a subscription: `ind` is looked at only when `valid` is not 0.
 struct RadioEventSwitch {
-    uint8_t valid;
-    uint8_t ind; ///< 0: the modem need not send the indication; otherwise it shall
+    uint8_t valid; ///< 0: nothing is to change
+    uint8_t ind;   ///< 0: the modem need not send the indication; otherwise it shall
 };
 
 /// The switchable vendor indications. All others of the vendor client are switched on by the first
@@ -98,7 +99,7 @@ static_assert(sizeof(RadioMsimSubMode) == 8);
 
 /// Record of RADIO_EVENT_DATA_IFUP_PACKET_ROUTE: four values as the modem defines them.
 struct RadioDataIfupPacketRoute {
-    uint8_t values[4];
+    uint8_t values[4]; ///< as the modem defines them
 };
 static_assert(sizeof(RadioDataIfupPacketRoute) == 4);
 
@@ -123,26 +124,26 @@ static_assert(sizeof(RadioAtomDataEvent) == 4100);
 
 /// Record of RADIO_EVENT_TEST_IND, RADIO_EVENT_VEYRA_EVENT_IND and RADIO_EVENT_HST_MODE_IND.
 struct RadioValueEvent {
-    int32_t value;
+    int32_t value; ///< as the modem defines it
 };
 static_assert(sizeof(RadioValueEvent) == 4);
 
-inline constexpr unsigned kRadioMaxReportCells = 200;
+inline constexpr unsigned kRadioMaxReportCells = 200; ///< that a report holds
 
 /// One measured cell. The values are the modem's and passed through.
 struct RadioVeyraCell {
-    uint8_t rat;           ///< of the frequency
-    uint64_t subscription; ///< of the subscription
-    uint64_t group;        ///< of the frequency group; 0 without a valid PLMN
-    uint16_t pci;          ///< physical cell identity
-    uint16_t mcc;          ///< mobile country code, decimal; 0 without a valid PLMN
-    uint16_t mnc;          ///< mobile network code, decimal; 0 without a valid PLMN
-    uint32_t arfcn;        ///< EARFCN or NR-ARFCN of the frequency
-    uint8_t beam;
-    int16_t rsrp;
-    int16_t rsrq;
-    int16_t sinr;
-    uint16_t quality;
+    uint8_t rat;            ///< of the frequency
+    uint64_t subscription;  ///< of the subscription
+    uint64_t group;         ///< of the frequency group; 0 without a valid PLMN
+    uint16_t pci;           ///< physical cell identity
+    uint16_t mcc;           ///< mobile country code, decimal; 0 without a valid PLMN
+    uint16_t mnc;           ///< mobile network code, decimal; 0 without a valid PLMN
+    uint32_t arfcn;         ///< EARFCN or NR-ARFCN of the frequency
+    uint8_t beam;           ///< index of the beam
+    int16_t rsrp;           ///< reference signal received power
+    int16_t rsrq;           ///< reference signal received quality
+    int16_t sinr;           ///< signal to interference and noise ratio
+    uint16_t quality;       ///< as the modem defines it
     uint64_t reserved1;     ///< 0
     int16_t offset;         ///< of the frequency
     uint8_t reserved2[118]; ///< 0
@@ -151,58 +152,58 @@ static_assert(sizeof(RadioVeyraCell) == 176);
 
 /// Record of RADIO_EVENT_VEYRA_CELL_INFO_IND: a measurement report.
 struct RadioVeyraCellInfo {
-    uint32_t count;    ///< cells that were measured, at most 200
-    uint32_t reserved; ///< 0
-    RadioVeyraCell cells[kRadioMaxReportCells];
+    uint32_t count;                             ///< cells that were measured, at most 200
+    uint32_t reserved;                          ///< 0
+    RadioVeyraCell cells[kRadioMaxReportCells]; ///< the first `count` count
 };
 static_assert(sizeof(RadioVeyraCellInfo) == 35208);
 
 /// Record of RADIO_EVENT_SIDO_ISSUE_IND, as the modem defines it.
 struct RadioSidoIssueEvent {
-    int32_t values[21];
+    int32_t values[21]; ///< as the modem defines them
 };
 static_assert(sizeof(RadioSidoIssueEvent) == 84);
 
 /// Record of RADIO_EVENT_SERVING_CELL_INFO_IND: the members of RadioServingCell, as the modem sends them.
 struct RadioServingCellEvent {
-    uint32_t rat;
-    uint32_t mcc;
-    uint32_t mnc;
-    uint32_t tac;
-    uint32_t pci;
-    uint32_t arfcn;
-    uint32_t reserved;
-    uint32_t cellIdLow;
-    uint32_t cellIdHigh;
-    uint32_t band;
-    uint32_t rsrp;
-    uint32_t rsrq;
-    uint32_t sinr;
-    uint32_t rssi;
-    uint32_t dlBandwidth;
-    uint32_t ulArfcn;
-    uint32_t ulBandwidth;
-    uint32_t timingAdvance;
-    uint32_t cqi;
-    uint32_t rrcState;
-    uint8_t mncDigits;
-    uint8_t rxAntennas;
-    uint8_t txAntennas;
-    uint32_t cause; ///< why it is reported, as the modem defines it
+    uint32_t rat;           ///< 4: LTE, 5: NR
+    uint32_t mcc;           ///< mobile country code
+    uint32_t mnc;           ///< mobile network code
+    uint32_t tac;           ///< tracking area code
+    uint32_t pci;           ///< physical cell identity
+    uint32_t arfcn;         ///< downlink EARFCN or NR-ARFCN
+    uint32_t reserved;      ///< without meaning
+    uint32_t cellIdLow;     ///< cell identity, low 32 bits
+    uint32_t cellIdHigh;    ///< cell identity, bits above them
+    uint32_t band;          ///< operating band
+    uint32_t rsrp;          ///< dBm, two's complement
+    uint32_t rsrq;          ///< dB, two's complement
+    uint32_t sinr;          ///< dB, two's complement
+    uint32_t rssi;          ///< dBm, two's complement
+    uint32_t dlBandwidth;   ///< downlink bandwidth, kHz
+    uint32_t ulArfcn;       ///< uplink EARFCN or NR-ARFCN
+    uint32_t ulBandwidth;   ///< uplink bandwidth, kHz
+    uint32_t timingAdvance; ///< timing advance as the modem counts it
+    uint32_t cqi;           ///< channel quality indicator, 0 to 15
+    uint32_t rrcState;      ///< as RadioRrcStatus
+    uint8_t mncDigits;      ///< number of digits of the MNC, 2 or 3
+    uint8_t rxAntennas;     ///< receive antennas in use
+    uint8_t txAntennas;     ///< transmit antennas in use
+    uint32_t cause;         ///< why it is reported, as the modem defines it
 };
 static_assert(sizeof(RadioServingCellEvent) == 88);
 
 /// Record of RADIO_EVENT_HYPER_UPLINK_STATE_IND.
 struct RadioHyperUplinkStateEvent {
-    int32_t scene;
-    int32_t state;
-    int32_t type;
+    int32_t scene; ///< the scene, as the modem defines it
+    int32_t state; ///< its state
+    int32_t type;  ///< its kind
 };
 static_assert(sizeof(RadioHyperUplinkStateEvent) == 12);
 
 /// Record of RADIO_EVENT_IMS_RTP_CONTROL_IND.
 struct RadioImsRtpControlEvent {
-    uint16_t control;
+    uint16_t control; ///< what the modem asks for, as it defines it
 };
 static_assert(sizeof(RadioImsRtpControlEvent) == 2);
 
@@ -215,7 +216,7 @@ static_assert(sizeof(RadioOlogEvent) == 8);
 
 /// Record of RADIO_EVENT_SINGLE_SIM_CHANGE_IND.
 struct RadioSingleSimChangeEvent {
-    uint8_t state;
+    uint8_t state; ///< as the modem defines it
 };
 static_assert(sizeof(RadioSingleSimChangeEvent) == 1);
 
@@ -228,24 +229,24 @@ static_assert(sizeof(RadioMccChangedEvent) == 8);
 
 /// Record of RADIO_EVENT_ALERT_EVENT_IND.
 struct RadioAlertEvent {
-    int32_t type;
-    int32_t level;
+    int32_t type;       ///< what happened, as the modem defines it
+    int32_t level;      ///< how grave it is, as the modem defines it
     int32_t entries[5]; ///< what the modem did not send is 0
 };
 static_assert(sizeof(RadioAlertEvent) == 28);
 
 /// Records of RADIO_EVENT_VODATA_IND and RADIO_EVENT_CALL_STATE_CHANGE_IND.
 struct RadioStateEvent {
-    int32_t id;
-    int32_t state;
+    int32_t id;    ///< the call's identifier
+    int32_t state; ///< its state, as the modem defines it
 };
 static_assert(sizeof(RadioStateEvent) == 8);
 
 /// Record of RADIO_EVENT_ALL_CELL_INFO_IND: the cells of up to two subscriptions, as the modem sends them.
 struct RadioAllCellInfoEvent {
-    uint32_t count; ///< of `cells`
-    uint32_t reserved;
-    RadioAllCellInfo cells[2];
+    uint32_t count;            ///< of `cells`
+    uint32_t reserved;         ///< without meaning
+    RadioAllCellInfo cells[2]; ///< one entry for each subscription
 };
 static_assert(sizeof(RadioAllCellInfoEvent) == 4280);
 
@@ -259,8 +260,8 @@ struct RadioNetworkActionOutcome {
 
 /// Record of RADIO_EVENT_NETWORK_ACTION_RESULT_IND.
 struct RadioNetworkActionResultEvent {
-    uint32_t count; ///< at most 16
-    RadioNetworkActionOutcome outcomes[16];
+    uint32_t count;                         ///< at most 16
+    RadioNetworkActionOutcome outcomes[16]; ///< the first `count` count
 };
 static_assert(sizeof(RadioNetworkActionResultEvent) == 452);
 
@@ -273,33 +274,33 @@ static_assert(sizeof(RadioSceneModeEvent) == 516);
 
 /// Record of RADIO_EVENT_SMART_NETWORK_SELECT_IND.
 struct RadioSmartNetworkSelectEvent {
-    int32_t rat;
-    int32_t arfcn;
-    int32_t pci;
+    int32_t rat;   ///< radio access technology, as the modem defines it
+    int32_t arfcn; ///< downlink EARFCN or NR-ARFCN
+    int32_t pci;   ///< physical cell identity
 };
 static_assert(sizeof(RadioSmartNetworkSelectEvent) == 12);
 
 /// Record of RADIO_EVENT_RF_ICC_CLAT_INFO_IND.
 struct RadioRfIccClatEvent {
-    uint16_t band;
+    uint16_t band;      ///< the band concerned
     uint16_t bandwidth; ///< MHz
-    uint16_t state;
+    uint16_t state;     ///< as the modem defines it
 };
 static_assert(sizeof(RadioRfIccClatEvent) == 6);
 
 /// Record of RADIO_EVENT_RF_ICC_TX_SHARING_IND.
 struct RadioRfIccTxSharingEvent {
-    int32_t band;
-    int32_t state;
-    int32_t power;
+    int32_t band;  ///< the band concerned
+    int32_t state; ///< as the modem defines it
+    int32_t power; ///< as the modem defines it
 };
 static_assert(sizeof(RadioRfIccTxSharingEvent) == 12);
 
 /// Record of RADIO_EVENT_RF_ICC_EVENT_IND.
 struct RadioRfIccEvent {
-    int32_t event;
+    int32_t event;       ///< which event, as the modem defines it
     uint32_t dataLength; ///< bytes of `data` that count, at most 128
-    uint8_t data[128];
+    uint8_t data[128];   ///< as the event defines it
 };
 static_assert(sizeof(RadioRfIccEvent) == 136);
 

@@ -1,3 +1,4 @@
+/// @file
 /// In-device coexistence (3GPP TS 36.300): the modem next to radios that disturb it.
 #pragma once
 
@@ -6,7 +7,7 @@
 #include <cstdint>
 #include <vector>
 
-inline constexpr unsigned kRadioMaxIdcOffsets = 20;
+inline constexpr unsigned kRadioMaxIdcOffsets = 20; ///< of one request
 
 /// One entry of the offset table, as the modem defines it.
 struct RadioIdcOffsetConfig {
@@ -24,6 +25,7 @@ extern "C" {
 /// @param rat       radio access technology as the modem numbers it, 4 or 7
 /// @param offset    the common offset; its low 16 bits are sent
 /// @param configs   the table; the first 20 entries are sent, further ones are not
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
 ///                  library's delivery thread
 /// @return 0 when handed to the modem; 2 for another rat; 1 when refused otherwise

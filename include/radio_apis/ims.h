@@ -1,3 +1,4 @@
+/// @file
 /// IMS media quality, and handover thresholds.
 #pragma once
 
@@ -7,13 +8,13 @@
 
 /// When the audio quality of an IMS call is reported: values as the modem defines them. As on the wire.
 struct RadioImsAudioQualityThreshold {
-    int32_t values[22];
+    int32_t values[22]; ///< sent in this order
 };
 static_assert(sizeof(RadioImsAudioQualityThreshold) == 88);
 
 /// When the modem prefers another cell: values as it defines them. As on the wire.
 struct RadioAdaptiveHandoverThreshold {
-    int32_t values[6];
+    int32_t values[6]; ///< sent in this order
 };
 static_assert(sizeof(RadioAdaptiveHandoverThreshold) == 24);
 
@@ -26,7 +27,7 @@ static_assert(sizeof(RadioImsRtpInfo) == 8);
 
 /// When the quality of an RTP session is reported: values as the modem defines them. As on the wire.
 struct RadioImsRtpThresholdInfo {
-    int32_t values[9];
+    int32_t values[9]; ///< sent in this order
 };
 static_assert(sizeof(RadioImsRtpThresholdInfo) == 36);
 
@@ -40,6 +41,7 @@ extern "C" {
 /// Sets when audio quality is reported.
 ///
 /// @param threshold sent as it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImsAudioQualityThreshold(const RadioImsAudioQualityThreshold& threshold, void* userData,
@@ -48,6 +50,7 @@ RADIO_API int radioSetImsAudioQualityThreshold(const RadioImsAudioQualityThresho
 /// Sets when the modem prefers another cell.
 ///
 /// @param threshold sent as it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThreshold& threshold,
@@ -56,6 +59,7 @@ RADIO_API int radioSetAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThres
 /// Tells the modem of an RTP session.
 ///
 /// @param info      sent as it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImsRtpInfo(const RadioImsRtpInfo& info, void* userData, RadioRequestCallback callback);
@@ -63,6 +67,7 @@ RADIO_API int radioSetImsRtpInfo(const RadioImsRtpInfo& info, void* userData, Ra
 /// Sets when RTP quality is reported.
 ///
 /// @param info      sent as it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void* userData,
@@ -70,6 +75,7 @@ RADIO_API int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void
 
 /// Whether supplementary services go over IMS (USSI, 3GPP TS 24.390).
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.imsUssd`, zero when the answer is no number; with
 ///                  RADIO_APIS_FAILURE and a zeroed record when the modem refused or answered no field; or with
 ///                  the modem's failure and no record
@@ -80,6 +86,7 @@ RADIO_API int radioGetImsUssdEnabled(void* userData, RadioRequestCallback callba
 /// second one's answer is told.
 ///
 /// @param enable    on or off
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -88,6 +95,7 @@ RADIO_API int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCa
 /// Names the gateway of calls over Wi-Fi (ePDG, 3GPP TS 23.003).
 ///
 /// @param fqdn      its name; of a long one the command's 255th character is the last
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for null, or a control character or double

@@ -1,3 +1,4 @@
+/// @file
 /// Start and end of the library's work.
 #pragma once
 

@@ -1,3 +1,4 @@
+/// @file
 /// Metrics, and data of the modem's network evaluation.
 #pragma once
 
@@ -8,21 +9,20 @@
 
 /// Result of radioGetMetricsData.
 struct RadioMetricsData {
-    uint32_t length; ///< bytes in `data`
-    uint8_t data[16384];
-    int32_t type;  ///< which metrics; -1 when the modem does not say
-    int32_t count; ///< number of metrics; 0 when the modem does not say
-    int32_t state; ///< as the modem defines it; 0 when it does not say
+    uint32_t length;     ///< bytes in `data`
+    uint8_t data[16384]; ///< as the modem defines it
+    int32_t type;        ///< which metrics; -1 when the modem does not say
+    int32_t count;       ///< number of metrics; 0 when the modem does not say
+    int32_t state;       ///< as the modem defines it; 0 when it does not say
 };
 
-/// Results of radioGetAtomData, radioGetNecData and radioGetModemProtocolInfo.
-using RadioAtomData = RadioBlob<4096>;
-using RadioNecData = RadioBlob<2048>;
-using RadioProtocolInfo = RadioBlob<4096>;
+using RadioAtomData = RadioBlob<4096>;     ///< Result of radioGetAtomData.
+using RadioNecData = RadioBlob<2048>;      ///< Result of radioGetNecData.
+using RadioProtocolInfo = RadioBlob<4096>; ///< Result of radioGetModemProtocolInfo.
 
 /// Which measurements the modem reports: eight values as it defines them, sent in this order.
 struct VeyraConfigPolicy {
-    int32_t values[8];
+    int32_t values[8]; ///< sent in this order
 };
 
 extern "C" {
@@ -32,6 +32,7 @@ extern "C" {
 /// @param type      kind of metrics, passed through
 /// @param ids       which metrics; may be null when `count` is 0
 /// @param count     their number, at most 65535
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem; 11 for null ids or too many of them; 1 when refused otherwise
 RADIO_API int radioStartMetricsCollect(int type, int* ids, unsigned int count, void* userData,
@@ -40,6 +41,7 @@ RADIO_API int radioStartMetricsCollect(int type, int* ids, unsigned int count, v
 /// Stops the collection.
 ///
 /// @param type      kind of metrics
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioStopMetricsCollect(int type, void* userData, RadioRequestCallback callback);
@@ -51,6 +53,7 @@ RADIO_API int radioStopMetricsCollect(int type, void* userData, RadioRequestCall
 /// @param state     passed through
 /// @param ids       which metrics; may be null when `count` is 0
 /// @param count     their number, at most 65535
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.metricsData`
 /// @return 0 when handed to the modem; 11 for null ids or too many of them; 1 when refused otherwise
 RADIO_API int radioGetMetricsData(int type, int option, int state, int* ids, unsigned int count,
@@ -61,6 +64,7 @@ RADIO_API int radioGetMetricsData(int type, int option, int state, int* ids, uns
 /// @param type      kind of data, passed through
 /// @param data      what the modem needs for it; may be null when `length` is 0
 /// @param length    number of bytes, at most 65535
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.necData`
 /// @return 0 when handed to the modem; 11 for null data or too much of it; 1 when refused otherwise
 RADIO_API int radioGetNecData(int type, const unsigned char* data, unsigned int length, void* userData,
@@ -68,6 +72,7 @@ RADIO_API int radioGetNecData(int type, const unsigned char* data, unsigned int 
 
 /// What the modem tells of its protocol state.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.protocolInfo`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetModemProtocolInfo(void* userData, RadioRequestCallback callback);
@@ -75,6 +80,7 @@ RADIO_API int radioGetModemProtocolInfo(void* userData, RadioRequestCallback cal
 /// Sets which measurements the modem reports with RADIO_EVENT_VEYRA_CELL_INFO_IND.
 ///
 /// @param policy    see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetVeyraConfigPolicy(VeyraConfigPolicy policy, void* userData,

@@ -1,3 +1,4 @@
+/// @file
 /// Several SIM cards in use at once.
 #pragma once
 
@@ -16,6 +17,7 @@ extern "C" {
 
 /// How the modem serves several SIM cards at the moment.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.msimSubModeState`;
 ///                  on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -26,6 +28,7 @@ RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback call
 /// @param rat       radio access technology as the modem numbers it, 4 or 7
 /// @param thresh1   the first threshold; with rat 4 it is sent multiplied by 4. 16 bits are sent
 /// @param thresh2   the second threshold, likewise
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
 ///                  library's delivery thread
 /// @return 0 when handed to the modem; 2 for another rat; 1 when refused otherwise
@@ -35,6 +38,7 @@ RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, vo
 /// Sets how the modem is to serve several SIM cards.
 ///
 /// @param mode      as the modem numbers it
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused

@@ -1,3 +1,4 @@
+/// @file
 /// Non-volatile items of the modem.
 #pragma once
 
@@ -5,13 +6,13 @@
 
 #include <cstdint>
 
-inline constexpr unsigned kRadioMaxNvBytes = 20480;
+inline constexpr unsigned kRadioMaxNvBytes = 20480; ///< bytes of the longest item
 
 /// Result of radioReadNv.
 struct RadioNvItem {
-    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
-    uint16_t dataLen; ///< number of bytes in `data`
-    uint8_t data[kRadioMaxNvBytes];
+    uint32_t failure;               ///< 1 when the modem reported a failure, otherwise 0
+    uint16_t dataLen;               ///< number of bytes in `data`
+    uint8_t data[kRadioMaxNvBytes]; ///< the first `dataLen` bytes count
 };
 
 extern "C" {
@@ -20,6 +21,7 @@ extern "C" {
 ///
 /// @param id        the item's number
 /// @param index     which of its records
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.nvItemData`, whose `failure` tells of the
 ///                  modem's failure
 /// @return 0 when handed to the modem, 1 when refused
@@ -31,6 +33,7 @@ RADIO_API int radioReadNv(int id, signed char index, void* userData, RadioReques
 /// @param index     which of its records
 /// @param data      the new contents, copied before this returns; not null
 /// @param dataLen   their number, at most 20480 bytes
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.nvWrite`, whose `failure` tells of the
 /// modem's failure
 /// @return 0 when handed to the modem; 11 for a null `data` or too many bytes; 1 when refused otherwise

@@ -1,3 +1,4 @@
+/// @file
 /// Operation mode of the modem (3GPP TS 27.007, +CFUN).
 #pragma once
 
@@ -22,6 +23,7 @@ extern "C" {
 /// Sets the operation mode, waits 500 ms and looks whether the modem has it; once more after another 500 ms.
 ///
 /// @param mode      see the enumeration
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem has the mode, else with
 ///                  RADIO_APIS_FAILURE; the record is empty
 /// @return 0 once started, also when the modem then can't be reached
@@ -30,6 +32,7 @@ RADIO_API int radioSetOperationMode(RADIO_OPERATION_MODE_TYPE mode, void* userDa
 
 /// The level of functionality (3GPP TS 27.007, +CFUN): 0 minimum, 1 full, 4 radio off.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.operationMode`, or with RADIO_APIS_FAILURE and a
 ///                  zeroed record when the answer carried no mode, or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -37,6 +40,7 @@ RADIO_API int radioGetOperationMode(void* userData, RadioRequestCallback callbac
 
 /// Restarts the modem.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused

@@ -1,3 +1,4 @@
+/// @file
 /// Which way packets take.
 #pragma once
 
@@ -15,6 +16,7 @@ extern "C" {
 
 /// The route of packets on activated data connections.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.packetRoute`; on
 ///                  the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -22,6 +24,7 @@ RADIO_API int radioGetDataActPacketRoute(void* userData, RadioRequestCallback ca
 
 /// The route of packets on network interfaces that are up.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.packetRoute`; on
 ///                  the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused

@@ -1,3 +1,4 @@
+/// @file
 /// Which indications the modem sends, and how many it sent.
 #pragma once
 
@@ -5,7 +6,7 @@
 
 #include <cstdint>
 
-inline constexpr unsigned kRadioMaxPolicies = 48;
+inline constexpr unsigned kRadioMaxPolicies = 48; ///< of one request
 
 #pragma pack(push, 1)
 
@@ -16,22 +17,22 @@ struct RadioPolicyConfig {
     uint32_t interval;   ///< shortest time between two, ms
     int16_t threshold;   ///< change that is worth one, as the modem defines it
     uint8_t length1;     ///< characters in `text1`, at most 9
-    char text1[10];
-    uint8_t length2; ///< characters in `text2`, at most 9
-    char text2[10];
+    char text1[10];      ///< the modem defines what it is for
+    uint8_t length2;     ///< characters in `text2`, at most 9
+    char text2[10];      ///< the modem defines what it is for
 };
 
 /// The policies. As on the wire. Also the result of radioGetModemIndicationPolicy, whose texts always end
 /// with a NUL.
 struct RadioPolicyConfigListType {
-    uint32_t count; ///< at most 48
-    RadioPolicyConfig policies[kRadioMaxPolicies];
+    uint32_t count;                                ///< at most 48
+    RadioPolicyConfig policies[kRadioMaxPolicies]; ///< the first `count` count
 };
 
 /// Whether one indication is sent. As on the wire.
 struct RadioIndicationConfig {
-    uint32_t indication;
-    uint8_t enabled;
+    uint32_t indication; ///< the indication's number
+    uint8_t enabled;     ///< 1: sent, 0: held back
 };
 
 #pragma pack(pop)
@@ -40,25 +41,26 @@ static_assert(sizeof(RadioPolicyConfig) == 33);
 static_assert(sizeof(RadioPolicyConfigListType) == 1588);
 static_assert(sizeof(RadioIndicationConfig) == 5);
 
-inline constexpr unsigned kRadioMaxIndicationConfigs = 64;
+inline constexpr unsigned kRadioMaxIndicationConfigs = 64; ///< of one request
 
+/// The switches of several indications.
 struct RadioIndicationConfigListType {
-    uint32_t count; ///< at most 64; more are not sent
-    RadioIndicationConfig configs[kRadioMaxIndicationConfigs];
+    uint32_t count;                                            ///< at most 64; more are not sent
+    RadioIndicationConfig configs[kRadioMaxIndicationConfigs]; ///< the first `count` count
 };
 
-inline constexpr unsigned kRadioMaxReportRecords = 100;
+inline constexpr unsigned kRadioMaxReportRecords = 100; ///< that an answer holds
 
 /// How often an indication was sent. As on the wire.
 struct RadioIndicationReport {
-    uint32_t indication;
-    uint32_t times;
+    uint32_t indication; ///< the indication's number
+    uint32_t times;      ///< how often it was sent
 };
 
 /// Result of radioGetIndicationReportRecords.
 struct RadioIndicationReportList {
-    uint32_t count; ///< at most 100
-    RadioIndicationReport records[kRadioMaxReportRecords];
+    uint32_t count;                                        ///< at most 100
+    RadioIndicationReport records[kRadioMaxReportRecords]; ///< the first `count` count
 };
 
 extern "C" {
@@ -66,6 +68,7 @@ extern "C" {
 /// Sets the policies.
 ///
 /// @param policies  sent as they are
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetModemIndicationPolicy(const RadioPolicyConfigListType& policies, void* userData,
@@ -73,12 +76,14 @@ RADIO_API int radioSetModemIndicationPolicy(const RadioPolicyConfigListType& pol
 
 /// The policies.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.indicationPolicy`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetModemIndicationPolicy(void* userData, RadioRequestCallback callback);
 
 /// How often the modem sent which indication.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.indicationReports`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetIndicationReportRecords(void* userData, RadioRequestCallback callback);
@@ -87,6 +92,7 @@ RADIO_API int radioGetIndicationReportRecords(void* userData, RadioRequestCallba
 ///
 /// @param type      which kind, passed through
 /// @param configs   see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetIndicationConfig(int type, const RadioIndicationConfigListType& configs, void* userData,

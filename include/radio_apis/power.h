@@ -1,3 +1,4 @@
+/// @file
 /// Power saving, and what the modem tells of its own resources.
 #pragma once
 
@@ -31,7 +32,7 @@ struct RadioSmartIdleInfoType {
 };
 static_assert(sizeof(RadioSmartIdleInfoType) == 20);
 
-inline constexpr unsigned kRadioMaxHeaps = 50;
+inline constexpr unsigned kRadioMaxHeaps = 50; ///< that an answer holds
 
 /// One heap of the modem.
 struct RadioModemHeap {
@@ -42,23 +43,23 @@ struct RadioModemHeap {
 
 /// Result of radioGetModemHeapList.
 struct RadioModemHeapList {
-    uint32_t poolCount;   ///< 1 when the modem gave a list, 0 when it gave none
-    char poolName[20];    ///< "modem_pool"
-    uint32_t size;        ///< bytes of the pool
-    uint32_t used;        ///< bytes in use
-    uint32_t free;        ///< bytes free
-    uint32_t largestFree; ///< bytes of the largest free block
-    uint32_t heapCount;   ///< at most 50
-    RadioModemHeap heaps[kRadioMaxHeaps];
+    uint32_t poolCount;                   ///< 1 when the modem gave a list, 0 when it gave none
+    char poolName[20];                    ///< "modem_pool"
+    uint32_t size;                        ///< bytes of the pool
+    uint32_t used;                        ///< bytes in use
+    uint32_t free;                        ///< bytes free
+    uint32_t largestFree;                 ///< bytes of the largest free block
+    uint32_t heapCount;                   ///< at most 50
+    RadioModemHeap heaps[kRadioMaxHeaps]; ///< the first `heapCount` count
 };
 
-inline constexpr unsigned kRadioMaxAtValues = 8;
+inline constexpr unsigned kRadioMaxAtValues = 8; ///< that an answer holds
 
 /// The numbers of an answer, up to the first field that is none: result of radioQueryFastDormancyMode,
 /// radioQueryLegacyFastDormancyMode and radioGetSarSnsData.
 struct RadioAtValues {
-    uint32_t count; ///< values that count, at most 8
-    int32_t values[kRadioMaxAtValues];
+    uint32_t count;                    ///< values that count, at most 8
+    int32_t values[kRadioMaxAtValues]; ///< the first `count` count
 };
 
 extern "C" {
@@ -68,6 +69,7 @@ extern "C" {
 /// of NR, 4 for the search without a SIM, 5 for the low power control.
 ///
 /// @param info      the switches
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict; on success with an empty record
 /// @return 0 when handed to the modem, 1 when refused, which with type 600 every group but 1 to 5 is
 RADIO_API int radioSetPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback callback);
@@ -75,6 +77,7 @@ RADIO_API int radioSetPowerSavingState(const UAIINFO& info, void* userData, Radi
 /// Sets when the modem may rest.
 ///
 /// @param info      sent as it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSmartIdleCfg(const RadioSmartIdleInfoType& info, void* userData,
@@ -83,12 +86,14 @@ RADIO_API int radioSetSmartIdleCfg(const RadioSmartIdleInfoType& info, void* use
 /// Switches the power boost.
 ///
 /// @param state     passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetPowerBoostState(int state, void* userData, RadioRequestCallback callback);
 
 /// Has the modem take its power statistics.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.powerStatistics`,
 ///                  whose `failure` tells of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
@@ -98,6 +103,7 @@ RADIO_API int radioGetPowerStatistics(void* userData, RadioRequestCallback callb
 ///
 /// @param index     which timer; -1: not sent
 /// @param timer     its time as the modem counts it; -1: not sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
 ///                  library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -105,6 +111,7 @@ RADIO_API int radioSetFastDormancyTimer(int index, int timer, void* userData, Ra
 
 /// What the modem's memory is used for.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.modemHeapList`;
 ///                  with RADIO_APIS_INVALID_PARAMETER and no record when the modem lists more than 50 heaps
 /// @return 0 when handed to the modem, 1 when refused
@@ -114,6 +121,7 @@ RADIO_API int radioGetModemHeapList(void* userData, RadioRequestCallback callbac
 ///
 /// @param state     bits: 0 asleep, 1 the receiver follows the transmitter, 2 the 100k mode, 3 the converter is
 ///                  an RQ4120, which needs bit 1 or 2
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                  RADIO_APIS_FAILURE; the record is empty. Without bit 3 also with the modem's failure and no
 ///                  record
@@ -122,6 +130,7 @@ RADIO_API int radioUpdateDcdcSleepState(int state, void* userData, RadioRequestC
 
 /// Has the modem ask the network to release its connection (fast dormancy).
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -131,6 +140,7 @@ RADIO_API int radioSendFastDormancy(void* userData, RadioRequestCallback callbac
 ///
 /// @param value1    as the modem defines it
 /// @param value2    likewise
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -139,6 +149,7 @@ RADIO_API int radioSetPSConformanceMode(int value1, int value2, void* userData,
 
 /// The modem's conformance of packet services, which fast dormancy depends on.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues` when the modem accepted the command,
 ///                  else with RADIO_APIS_FAILURE and a zeroed record, or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -146,6 +157,7 @@ RADIO_API int radioQueryFastDormancyMode(void* userData, RadioRequestCallback ca
 
 /// Whether fast dormancy of releases before 8 is off.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues` when the modem accepted the command,
 ///                  else with RADIO_APIS_FAILURE and a zeroed record, or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused

@@ -1,3 +1,4 @@
+/// @file
 /// Everything that libradioapis.so offers.
 ///
 /// A thread chooses its modem instance with radioApisInit and then sends requests. Every request function

@@ -1,8 +1,10 @@
+/// @file
 /// Result codes, service states and the callbacks through which the library answers.
 #pragma once
 
 #include <cstdint>
 
+/// Exported by the library.
 #define RADIO_API __attribute__((visibility("default")))
 
 struct RadioApisResultType;

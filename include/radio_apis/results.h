@@ -1,3 +1,4 @@
+/// @file
 /// The result record that every request callback is given.
 #pragma once
 
@@ -80,5 +81,5 @@ struct RadioApisResultType {
         RadioImsRtpRedunControl imsRtpRedunControl;
         RadioImsRtpRedunDataPath imsRtpRedunDataPath;
         RadioPacketRoute packetRoute;
-    } rsp;
+    } rsp; ///< the member that the request fills
 };

@@ -1,3 +1,4 @@
+/// @file
 /// Radio frequency control.
 #pragma once
 
@@ -28,6 +29,7 @@ extern "C" {
 ///
 /// @param featureId  a feature of the file
 /// @param index      one of its positions
+/// @param userData   handed to `callback`
 /// @param callback   called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                   RADIO_APIS_FAILURE; the record is empty
 /// @return 0 once started, also when the modem then can't be reached; 1 when refused, as when the file lists no
@@ -37,6 +39,7 @@ RADIO_API int radioSetAsdivFixPosition(int featureId, int index, void* userData,
 
 /// Enters the modem's RF test tables.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -45,14 +48,18 @@ RADIO_API int radioSetAtcTableInit(void* userData, RadioRequestCallback callback
 /// Leaves the modem's RF test tables; otherwise as radioSetAtcTableInit.
 RADIO_API int radiosetAtcTableDeInit(void* userData, RadioRequestCallback callback);
 
-/// Transmitter control of test benches. This library does not support it: each of the following functions
-/// logs so and returns 1; the callback is not called.
+/// Transmit antenna of test benches. Not supported: logs so and returns 1; the callback is not called.
 RADIO_API int radioSetTasForceIdxByRat(int rat, int index, int state, int mode, void* userData,
                                        RadioRequestCallback callback);
+/// Highest transmit power of test benches. Not supported: logs so and returns 1; the callback is not called.
 RADIO_API int radioSetMaxTxPower(int rat, int band, int power, void* userData, RadioRequestCallback callback);
+/// Transmitter settings of test benches. Not supported: logs so and returns 1; the callback is not called.
 RADIO_API int radioSetRfTxInfo(const RFTXINFO& info, void* userData, RadioRequestCallback callback);
+/// Transmitter readings of test benches. Not supported: logs so and returns 1; the callback is not called.
 RADIO_API int radioGetTxAdc(const TXADCINFO& info, void* userData, RadioRequestCallback callback);
+/// Transmit power of test benches. Not supported: logs so and returns 1; the callback is not called.
 RADIO_API int radioSetRfTxPower(const RFTXINFO& info, void* userData, RadioRequestCallback callback);
+/// Several transmitter settings of test benches. Not supported: logs so and returns 1; the callback is not called.
 RADIO_API int radioSetComboRfTxInfo(const std::vector<RFTXINFO>& infos, void* userData,
                                     RadioRequestCallback callback);
 

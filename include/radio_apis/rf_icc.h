@@ -1,3 +1,4 @@
+/// @file
 /// Coexistence of the modem with the device's other radios.
 #pragma once
 
@@ -16,10 +17,10 @@ struct RfIccClatEntry {
 
 /// Indicators of coexistence. As on the wire.
 struct RfIccClatKpi {
-    uint32_t freq;     ///< frequency in use, kHz
-    uint8_t num;       ///< entries that count
-    uint8_t subPolicy; ///< passed through
-    RfIccClatEntry entries[23];
+    uint32_t freq;              ///< frequency in use, kHz
+    uint8_t num;                ///< entries that count
+    uint8_t subPolicy;          ///< passed through
+    RfIccClatEntry entries[23]; ///< the first `num` count
 };
 
 /// An error of another radio. As on the wire.
@@ -43,6 +44,7 @@ extern "C" {
 
 /// The state of the coexistence.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.rfIccInfo`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetRfIccInfo(void* userData, RadioRequestCallback callback);
@@ -50,6 +52,7 @@ RADIO_API int radioGetRfIccInfo(void* userData, RadioRequestCallback callback);
 /// Tells the modem indicators.
 ///
 /// @param kpi       sent as it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSendRfIccClatKpi(const RfIccClatKpi& kpi, void* userData, RadioRequestCallback callback);
@@ -60,6 +63,7 @@ RADIO_API int radioSendRfIccClatKpi(const RfIccClatKpi& kpi, void* userData, Rad
 /// @param mode2     see `mode1`
 /// @param mode3     see `mode1`
 /// @param mode4     see `mode1`
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSendRfIccModeState(unsigned char mode1, unsigned char mode2, unsigned char mode3,
@@ -68,6 +72,7 @@ RADIO_API int radioSendRfIccModeState(unsigned char mode1, unsigned char mode2, 
 /// Tells the modem an error of another radio.
 ///
 /// @param error     sent as it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSendRfIccDeviceErr(const RfIccDeviceErr& error, void* userData,

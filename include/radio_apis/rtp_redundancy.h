@@ -1,3 +1,4 @@
+/// @file
 /// Redundant transport of an IMS call's media (RTP, RFC 3550) over a second path: its keys, its control and
 /// its addresses.
 #pragma once
@@ -8,7 +9,7 @@
 
 inline constexpr unsigned kRadioMaxRtpRedunKeyBytes = 256;       ///< of a key that the modem gives
 inline constexpr unsigned kRadioMaxRtpRedunRemoteKeyBytes = 130; ///< in the record; 129 of them can be sent
-inline constexpr unsigned kRadioMaxRtpRedunAddressBytes = 64;
+inline constexpr unsigned kRadioMaxRtpRedunAddressBytes = 64;    ///< bytes of the longest address
 
 /// Which public key is asked for.
 struct RadioImsRtpRedunKeyInfoType {
@@ -18,9 +19,9 @@ struct RadioImsRtpRedunKeyInfoType {
 
 /// The other side's public key.
 struct RadioImsRtpRedunPublicKeyInfoType {
-    int32_t id;         ///< the call's identifier
-    uint16_t keyLength; ///< bytes of `key`; of more than 129, 129 are sent
-    uint8_t key[kRadioMaxRtpRedunRemoteKeyBytes];
+    int32_t id;                                   ///< the call's identifier
+    uint16_t keyLength;                           ///< bytes of `key`; of more than 129, 129 are sent
+    uint8_t key[kRadioMaxRtpRedunRemoteKeyBytes]; ///< the first `keyLength` bytes count
 };
 
 /// What is to become of a call's redundancy.
@@ -42,12 +43,12 @@ struct RadioImsRtpRedunCapability {
 
 /// Result of radioGetImsRtpRedunPublicKey.
 struct RadioImsRtpRedunPublicKey {
-    uint32_t result;    ///< the modem's result code; 0: success
-    uint32_t status;    ///< as the modem defines it
-    int32_t id;         ///< the call's identifier
-    int32_t keyType;    ///< as the modem defines it
-    uint32_t keyLength; ///< bytes of `key`; a longer one is cut
-    uint8_t key[kRadioMaxRtpRedunKeyBytes];
+    uint32_t result;                        ///< the modem's result code; 0: success
+    uint32_t status;                        ///< as the modem defines it
+    int32_t id;                             ///< the call's identifier
+    int32_t keyType;                        ///< as the modem defines it
+    uint32_t keyLength;                     ///< bytes of `key`; a longer one is cut
+    uint8_t key[kRadioMaxRtpRedunKeyBytes]; ///< the first `keyLength` bytes count
 };
 
 /// Result of radioSetImsRtpRedunRemotePublicKey.
@@ -67,9 +68,9 @@ struct RadioImsRtpRedunControl {
 
 /// An end of the data path.
 struct RadioImsRtpRedunEndpoint {
-    uint32_t port;
-    uint32_t addressLength; ///< bytes of `address`; a longer one is cut
-    uint8_t address[kRadioMaxRtpRedunAddressBytes];
+    uint32_t port;                                  ///< UDP port, 0 to 65535
+    uint32_t addressLength;                         ///< bytes of `address`; a longer one is cut
+    uint8_t address[kRadioMaxRtpRedunAddressBytes]; ///< the first `addressLength` bytes count
 };
 
 /// Result of radioSyncImsRtpRedunDataPathConfig.
@@ -85,6 +86,7 @@ extern "C" {
 
 /// Whether the modem can do it.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
 ///                  `rsp.imsRtpRedunCapability`; on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -93,6 +95,7 @@ RADIO_API int radioGetImsRtpRedunCapability(void* userData, RadioRequestCallback
 /// The modem's own public key for a call.
 ///
 /// @param info      the call and the kind of key
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
 ///                  `rsp.imsRtpRedunPublicKey`; on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -102,6 +105,7 @@ RADIO_API int radioGetImsRtpRedunPublicKey(const RadioImsRtpRedunKeyInfoType& in
 /// Tells the modem the other side's public key.
 ///
 /// @param info      the call and the key
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
 ///                  `rsp.imsRtpRedunRemotePublicKey`; on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -111,6 +115,7 @@ RADIO_API int radioSetImsRtpRedunRemotePublicKey(const RadioImsRtpRedunPublicKey
 /// Controls a call's redundancy.
 ///
 /// @param info      the call and what is to become of it
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
 ///                  `rsp.imsRtpRedunControl`; on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -120,6 +125,7 @@ RADIO_API int radioSetImsRtpRedunControlInfo(const RadioImsRtpRedunControlInfoTy
 /// Brings the caller's view of the data path in step with the modem's.
 ///
 /// @param info      which data path
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
 ///                  `rsp.imsRtpRedunDataPath`; on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused

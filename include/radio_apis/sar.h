@@ -1,3 +1,4 @@
+/// @file
 /// Specific absorption rate: what limits transmit power near a body.
 #pragma once
 
@@ -16,6 +17,7 @@ extern "C" {
 ///
 /// @param source    which source, passed through
 /// @param state     its state, passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSarState(int source, int state, void* userData, RadioRequestCallback callback);
@@ -23,12 +25,14 @@ RADIO_API int radioSetSarState(int source, int state, void* userData, RadioReque
 /// Sets the device state index that chooses the SAR table.
 ///
 /// @param state     the index, passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSarDsiState(int state, void* userData, RadioRequestCallback callback);
 
 /// The device state index.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.sarDsiState`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetSarDsiState(void* userData, RadioRequestCallback callback);
@@ -36,6 +40,7 @@ RADIO_API int radioGetSarDsiState(void* userData, RadioRequestCallback callback)
 /// Switches real-time SAR.
 ///
 /// @param mode      the mode, passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetRtSarMode(int mode, void* userData, RadioRequestCallback callback);
@@ -43,12 +48,14 @@ RADIO_API int radioSetRtSarMode(int mode, void* userData, RadioRequestCallback c
 /// Tells the modem the region whose SAR limits hold.
 ///
 /// @param regionCode  the region's code, passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSarRegionCode(int regionCode, void* userData, RadioRequestCallback callback);
 
 /// Connects the SAR sensor.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -60,6 +67,7 @@ RADIO_API int radioDisconnectSarSensor(void* userData, RadioRequestCallback call
 /// Chooses a channel of the SAR sensor.
 ///
 /// @param channel   as the modem numbers it
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -67,6 +75,7 @@ RADIO_API int radioSetSarSensorChannel(int channel, void* userData, RadioRequest
 
 /// What the SAR sensor says.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues`; with RADIO_APIS_FAILURE and a zeroed
 ///                  record when the modem refused or answered no field; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused

@@ -1,3 +1,4 @@
+/// @file
 /// What the device is used for, and how the modem adapts to it.
 #pragma once
 
@@ -7,15 +8,15 @@
 
 /// A list of at most ten values.
 struct RadioHyperUplinkList {
-    uint32_t count; ///< at most 10; more are not sent
-    int32_t values[10];
+    uint32_t count;     ///< at most 10; more are not sent
+    int32_t values[10]; ///< the first `count` count
 };
 
 /// Parameters of the uplink enhancement: sixteen values as the modem defines them, and two lists.
 struct RadioHyperUplinkParasType {
-    int32_t values[16];
-    RadioHyperUplinkList list1;
-    RadioHyperUplinkList list2;
+    int32_t values[16];         ///< sent in this order
+    RadioHyperUplinkList list1; ///< sent behind the values
+    RadioHyperUplinkList list2; ///< sent behind `list1`
 };
 
 /// One cell of a site. As on the wire.
@@ -26,10 +27,10 @@ struct RadioSiteCell {
 
 /// The cells of a site. As on the wire.
 struct RadioSiteCellInfoType {
-    uint32_t rat;    ///< 4: LTE, 5: NR
-    uint32_t siteId; ///< number of the site
-    uint32_t count;  ///< cells in the list
-    RadioSiteCell cells[64];
+    uint32_t rat;            ///< 4: LTE, 5: NR
+    uint32_t siteId;         ///< number of the site
+    uint32_t count;          ///< cells in the list
+    RadioSiteCell cells[64]; ///< the first `count` count
 };
 static_assert(sizeof(RadioSiteCellInfoType) == 524);
 
@@ -41,25 +42,26 @@ struct RadioScoreInfo {
 };
 static_assert(sizeof(RadioScoreInfo) == 32);
 
-inline constexpr unsigned kRadioMaxScores = 16;
+inline constexpr unsigned kRadioMaxScores = 16; ///< of one request
 
+/// Several scores.
 struct RadioScoreInfoListType {
-    uint32_t count; ///< at most 16; more are not sent
-    RadioScoreInfo scores[kRadioMaxScores];
+    uint32_t count;                         ///< at most 16; more are not sent
+    RadioScoreInfo scores[kRadioMaxScores]; ///< the first `count` count
 };
 
-inline constexpr unsigned kRadioMaxScenes = 64;
+inline constexpr unsigned kRadioMaxScenes = 64; ///< that an answer holds
 
 /// The mode of one scene.
 struct RadioSceneMode {
-    int32_t scene;
-    int32_t mode; ///< as last set
+    int32_t scene; ///< the scene's number
+    int32_t mode;  ///< as last set
 };
 
 /// Result of radioGetSceneMode.
 struct RadioSceneModeList {
-    uint32_t count; ///< at most 64
-    RadioSceneMode scenes[kRadioMaxScenes];
+    uint32_t count;                         ///< at most 64
+    RadioSceneMode scenes[kRadioMaxScenes]; ///< the first `count` count
 };
 
 extern "C" {
@@ -67,6 +69,7 @@ extern "C" {
 /// Switches the uplink enhancement.
 ///
 /// @param mode      passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetHyperUplinkMode(int mode, void* userData, RadioRequestCallback callback);
@@ -74,6 +77,7 @@ RADIO_API int radioSetHyperUplinkMode(int mode, void* userData, RadioRequestCall
 /// Sets the parameters of the uplink enhancement.
 ///
 /// @param paras     see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetHyperUplinkParas(const RadioHyperUplinkParasType& paras, void* userData,
@@ -83,6 +87,7 @@ RADIO_API int radioSetHyperUplinkParas(const RadioHyperUplinkParasType& paras, v
 ///
 /// @param scene     which scene
 /// @param mode      its mode, passed through
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSceneMode(int scene, int mode, void* userData, RadioRequestCallback callback);
@@ -91,6 +96,7 @@ RADIO_API int radioSetSceneMode(int scene, int mode, void* userData, RadioReques
 ///
 /// @param scenes    which scenes; may be null when `count` is 0
 /// @param count     their number; of more than 64 the first 64 are asked for
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.sceneModes`
 /// @return 0 when handed to the modem; 11 for null scenes; 1 when refused otherwise
 RADIO_API int radioGetSceneMode(int* scenes, unsigned int count, void* userData,
@@ -100,6 +106,7 @@ RADIO_API int radioGetSceneMode(int* scenes, unsigned int count, void* userData,
 ///
 /// @param type      what is rated
 /// @param score     how good it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetQoeScore(int type, int score, void* userData, RadioRequestCallback callback);
@@ -107,6 +114,7 @@ RADIO_API int radioSetQoeScore(int type, int score, void* userData, RadioRequest
 /// Tells the modem scores of its own services.
 ///
 /// @param scores    see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSendScoreInfo(const RadioScoreInfoListType& scores, void* userData,
@@ -116,6 +124,7 @@ RADIO_API int radioSendScoreInfo(const RadioScoreInfoListType& scores, void* use
 ///
 /// @param action    not sent
 /// @param info      sent as it is
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetSiteCellInfo(int action, const RadioSiteCellInfoType& info, void* userData,

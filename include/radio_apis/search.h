@@ -1,3 +1,4 @@
+/// @file
 /// How the modem searches for networks, and which it leaves alone (3GPP TS 23.122).
 #pragma once
 
@@ -29,17 +30,17 @@ struct RadioOosCfgInfo {
     /// What is configured, and by which values: 1 by p7 to p11, 2 by p1, p2, p3, p5 and p6, 3 and 4 by `enable`,
     /// 5 by p4; 100 the sniffer that watches for a network's return, by p7 to p11.
     int32_t option;
-    int32_t p1;
-    int32_t p2;
-    int32_t p3;
-    int32_t p4;
-    int32_t p5;
-    int32_t p6;
-    int32_t p7; ///< of p7 to p11 option 100 sends the low 8 bits
-    int32_t p8;
-    int32_t p9;
-    int32_t p10;
-    int32_t p11;
+    int32_t p1;  ///< of option 2
+    int32_t p2;  ///< of option 2
+    int32_t p3;  ///< of option 2
+    int32_t p4;  ///< of option 5
+    int32_t p5;  ///< of option 2
+    int32_t p6;  ///< of option 2
+    int32_t p7;  ///< of p7 to p11 option 100 sends the low 8 bits
+    int32_t p8;  ///< of options 1 and 100
+    int32_t p9;  ///< of options 1 and 100
+    int32_t p10; ///< of options 1 and 100
+    int32_t p11; ///< of options 1 and 100
 };
 static_assert(sizeof(RadioOosCfgInfo) == 52);
 
@@ -48,6 +49,7 @@ extern "C" {
 /// Sets how often the modem searches for the home PLMN.
 ///
 /// @param info      see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioHplmnBgSearch(const RadioHplmnBgSearchInfoType& info, void* userData,
@@ -56,6 +58,7 @@ RADIO_API int radioHplmnBgSearch(const RadioHplmnBgSearchInfoType& info, void* u
 /// Lets the modem use a PLMN again that it avoids.
 ///
 /// @param info      the PLMN and the kind of its block. Of its text, MCC and MNC, six characters are sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
 ///                  library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -69,6 +72,7 @@ RADIO_API int radioPerformPlmnUnblock(RadioPlmnBlockInfo info, void* userData, R
 /// @param mncThreeDigits  whether the MNC has three digits, otherwise two
 /// @param code            the tracking area code; its low 16 bits are sent
 /// @param type            kind of list as the modem defines it; its low 8 bits are sent
+/// @param userData        handed to `callback`
 /// @param callback        called once with the modem's verdict and, on success, an empty record; on the modem
 ///                        library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -80,6 +84,7 @@ RADIO_API int radioClearForbiddenTai(int option, int mcc, int mnc, bool mncThree
 /// @param threshold    failures until then; the low 8 bits are sent
 /// @param watchPeriod  in which they are counted, as the modem counts time; the low 16 bits are sent
 /// @param barringTime  how long the cell is barred, as the modem counts time
+/// @param userData     handed to `callback`
 /// @param callback     called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.cellBarring`,
 ///                     whose `failure` tells of the modem's failure; on the modem library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -90,6 +95,7 @@ RADIO_API int radioConfigCellBarringParam(unsigned int threshold, unsigned int w
 /// Sets what the modem does while it is out of service.
 ///
 /// @param info      see the record
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and an empty record; for option 100 the record is null
 ///                  when that is a failure
 /// @return 0 when handed to the modem, 1 when refused, as for another option

@@ -1,3 +1,4 @@
+/// @file
 /// Service domain and usage of the device (3GPP TS 27.007, +CEMODE; TS 24.301).
 #pragma once
 
@@ -19,6 +20,7 @@ extern "C" {
 
 /// The UE mode of operation.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.serviceModeInfo`, or with RADIO_APIS_FAILURE
 ///                  and a zeroed record when the answer carried no mode, or with the modem's failure and no
 ///                  record
@@ -28,6 +30,7 @@ RADIO_API int radioGetServiceMode(void* userData, RadioRequestCallback callback)
 /// Sets the UE mode of operation. The modem's radio is switched off for that and on again.
 ///
 /// @param mode      as in RadioServiceMode
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
 /// @return 0 once started, also when the modem then can't be reached
@@ -36,6 +39,7 @@ RADIO_API int radioSetServiceMode(int mode, void* userData, RadioRequestCallback
 /// Sets what the usage is centred on (3GPP TS 27.007, +CEUS). The radio is switched off for that and on again.
 ///
 /// @param mode      as in RadioCentricMode
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
 /// @return 0 once started, also when the modem then can't be reached
@@ -43,6 +47,7 @@ RADIO_API int radioSetCentricMode(int mode, void* userData, RadioRequestCallback
 
 /// What the usage is centred on.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.centricModeInfo`, or with RADIO_APIS_FAILURE and a
 ///                  zeroed record when the answer carried no mode, or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused

@@ -1,3 +1,4 @@
+/// @file
 /// SIM trays, SIM cards and SIM locks.
 #pragma once
 
@@ -15,7 +16,7 @@ struct RadioSimTrayStatus {
 /// Result of the SIM lock requests: what the modem sent back.
 using RadioSimLockData = RadioBlob<512>;
 
-inline constexpr unsigned kRadioMaxAuthenticationBytes = 256;
+inline constexpr unsigned kRadioMaxAuthenticationBytes = 256; ///< bytes of the longest challenge or answer
 
 /// A challenge for the SIM card (3GPP TS 31.102, AUTHENTICATE).
 struct RadioUimAuthenticateReqInfo {
@@ -46,6 +47,7 @@ extern "C" {
 
 /// Whether the SIM trays are in.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.simTrayStatus`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetSimTrayStatus(void* userData, RadioRequestCallback callback);
@@ -56,6 +58,7 @@ RADIO_API int radioGetSimTrayStatus(void* userData, RadioRequestCallback callbac
 ///
 /// @param data      the bytes; not null
 /// @param length    their number, 1 to 2048
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
 /// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
 RADIO_API int radioSetCarrierLockBlob(const unsigned char* data, unsigned int length, void* userData,
@@ -67,6 +70,7 @@ RADIO_API int radioSetCarrierLockBlob(const unsigned char* data, unsigned int le
 ///
 /// @param data      the bytes; not null
 /// @param length    their number, 1 to 512
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
 /// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
 RADIO_API int radioSetCarrierLockStatus(const unsigned char* data, unsigned int length, void* userData,
@@ -78,6 +82,7 @@ RADIO_API int radioSetCarrierLockStatus(const unsigned char* data, unsigned int 
 ///
 /// @param data      the bytes; not null
 /// @param length    their number, 1 to 512
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
 /// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
 RADIO_API int radioGetCarrierLockStatus(const unsigned char* data, unsigned int length, void* userData,
@@ -89,6 +94,7 @@ RADIO_API int radioGetCarrierLockStatus(const unsigned char* data, unsigned int 
 ///
 /// @param data      the bytes; not null
 /// @param length    their number, 1 to 1024
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
 /// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
 RADIO_API int radioSetRegionLockBlob(const unsigned char* data, unsigned int length, void* userData,
@@ -100,6 +106,7 @@ RADIO_API int radioSetRegionLockBlob(const unsigned char* data, unsigned int len
 ///
 /// @param data      the bytes; not null
 /// @param length    their number, 1 to 512
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
 /// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
 RADIO_API int radioSetRegionLockStatus(const unsigned char* data, unsigned int length, void* userData,
@@ -111,6 +118,7 @@ RADIO_API int radioSetRegionLockStatus(const unsigned char* data, unsigned int l
 ///
 /// @param data      the bytes; not null
 /// @param length    their number, 1 to 512
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
 /// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
 RADIO_API int radioGetRegionLockStatus(const unsigned char* data, unsigned int length, void* userData,
@@ -119,6 +127,7 @@ RADIO_API int radioGetRegionLockStatus(const unsigned char* data, unsigned int l
 /// Has the SIM card answer a challenge of the network.
 ///
 /// @param info      the challenge
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
 ///                  `rsp.uimAuthentication`; on the modem library's delivery thread
 /// @return 0 when handed to the modem; 11 for more than 256 bytes; 1 when refused otherwise
@@ -127,6 +136,7 @@ RADIO_API int radioRequestIccSimAuthentication(const RadioUimAuthenticateReqInfo
 
 /// Powers the SIM card up.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
 ///                  library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -134,6 +144,7 @@ RADIO_API int radioSetUimPowerUp(void* userData, RadioRequestCallback callback);
 
 /// Powers the SIM card down: until it is powered up again the modem works as without one.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
 ///                  library's delivery thread
 /// @return 0 when handed to the modem, 1 when refused
@@ -142,6 +153,7 @@ RADIO_API int radioSetUimPowerDown(void* userData, RadioRequestCallback callback
 /// What kind of SIM card it is.
 ///
 /// @param option    not sent
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.simCardType`, with RADIO_APIS_FAILURE and a
 ///                  zeroed record without a card, or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused
@@ -149,6 +161,7 @@ RADIO_API int radioGetSimCardType(int option, void* userData, RadioRequestCallba
 
 /// The categories of the SIM lock.
 ///
+/// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.simlockCategory`, with RADIO_APIS_FAILURE and
 ///                  a zeroed record when the modem refused or answered nothing, or with the modem's failure and
 ///                  no record

@@ -1,5 +1,6 @@
 #include "soak/modem_process.h"
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <stdexcept>
@@ -29,11 +30,8 @@ void ModemProcess::start()
 {
     std::vector<std::string> words = {mProgram, "--quiet", "--listen", device()};
     words.insert(words.end(), mArguments.begin(), mArguments.end());
-    std::vector<char*> arguments;
-    for (std::string& word : words) {
-        arguments.push_back(word.data());
-    }
-    arguments.push_back(nullptr);
+    std::vector<char*> arguments(words.size() + 1); // the last one stays null
+    std::ranges::transform(words, arguments.begin(), [](std::string& word) { return word.data(); });
 
     int output[2];
     if (pipe(output) != 0) {
