@@ -15,8 +15,7 @@ inline constexpr auto kMembers<TXADCINFO> =
 
 std::vector<Request> rfRequests()
 {
-    const std::string group =
-        "Radio frequency control (but for the first three not supported by the library)";
+    const std::string group = "Radio frequency control";
     const auto rat = number<int>("rat", "radio access technology");
     return {
         {"radioSetAsdivFixPosition",
@@ -39,38 +38,38 @@ std::vector<Request> rfRequests()
          nullptr},
         {"radioSetTasForceIdxByRat",
          group,
-         "Force a transmit antenna",
+         "Force a transmit antenna (not supported by the library)",
          {rat, number<int>("index", "the antenna"), number<int>("state", "0 off, 1 on"),
           number<int>("mode", "how")},
          call(radioSetTasForceIdxByRat),
          nullptr},
         {"radioSetMaxTxPower",
          group,
-         "Limit the transmit power",
+         "Limit the transmit power (not supported by the library)",
          {rat, number<int>("band", "operating band"), number<int>("power", "dBm")},
          call(radioSetMaxTxPower),
          nullptr},
         {"radioSetRfTxInfo",
          group,
-         "Set up a transmitter",
+         "Set up a transmitter (not supported by the library)",
          {record<RFTXINFO>("info", "the transmitter")},
          call(radioSetRfTxInfo),
          nullptr},
         {"radioGetTxAdc",
          group,
-         "Read a transmitter's converter",
+         "Read a transmitter's converter (not supported by the library)",
          {record<TXADCINFO>("info", "the transmitter")},
          call(radioGetTxAdc),
          nullptr},
         {"radioSetRfTxPower",
          group,
-         "Set a transmitter's power",
+         "Set a transmitter's power (not supported by the library)",
          {record<RFTXINFO>("info", "the transmitter")},
          call(radioSetRfTxPower),
          nullptr},
         {"radioSetComboRfTxInfo",
          group,
-         "Set up several transmitters; here, one",
+         "Set up several transmitters; here, one (not supported by the library)",
          {record<RFTXINFO>("info", "the transmitter")},
          [](const Arguments& in, Reply to) {
              return radioSetComboRfTxInfo({in.at<RFTXINFO>(0)}, to.userData, to.callback);

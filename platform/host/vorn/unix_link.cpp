@@ -2,7 +2,40 @@
 
 #include "zor/log.h"
 
+#include <cstdlib>
+#include <set>
+
 namespace host {
+
+/// Every link, so that none outlives what its thread needs: Asio keeps its error categories until the process
+/// ends, and threads that nobody stopped would go on using them.
+struct UnixLinks {
+    std::mutex mutex; ///< held while a link is opened or closed
+    std::set<UnixLink*> links;
+    bool isOver = false;
+
+    /// Kept for ever, since the threads that open links are.
+    static UnixLinks& instance()
+    {
+        static UnixLinks& all = *[] {
+            asio::error::get_system_category(); // to be destroyed after what follows was called
+            asio::error::get_misc_category();
+            std::atexit([] { instance().stop(); });
+            return new UnixLinks;
+        }();
+        return all;
+    }
+
+    void stop()
+    {
+        const std::lock_guard lock(mutex);
+        isOver = true;
+        for (UnixLink* link : links) {
+            link->stop();
+        }
+    }
+};
+
 namespace {
 
 constexpr const char* kTag = "vorn";
@@ -12,8 +45,26 @@ constexpr std::chrono::seconds kLongestCommand{10};
 
 } // namespace
 
+UnixLink::UnixLink(std::string path, LinkEvents& events)
+    : mPath(std::move(path)), mEvents(events), mAll(UnixLinks::instance())
+{
+    const std::lock_guard all(mAll.mutex);
+    mAll.links.insert(this);
+}
+
+UnixLink::~UnixLink()
+{
+    const std::lock_guard all(mAll.mutex);
+    stop();
+    mAll.links.erase(this);
+}
+
 void UnixLink::open()
 {
+    const std::lock_guard all(mAll.mutex);
+    if (mAll.isOver) {
+        throw LinkError("the process ends");
+    }
     mContext = std::make_unique<asio::io_context>(1);
     Socket socket(*mContext);
     try {
@@ -33,8 +84,20 @@ void UnixLink::open()
 
 void UnixLink::close()
 {
+    const std::lock_guard all(mAll.mutex);
+    stop();
+}
+
+void UnixLink::stop()
+{
     if (!mContext) {
         return;
+    }
+    {
+        const std::lock_guard lock(mMutex);
+        mPosted.clear();
+        mIsUp = false;
+        mAnswered.notify_all();
     }
     mContext->stop();
     if (mThread.joinable()) {
@@ -42,9 +105,6 @@ void UnixLink::close()
     }
     mConnection.reset();
     mContext.reset();
-    const std::lock_guard lock(mMutex);
-    mPosted.clear();
-    mIsUp = false;
 }
 
 void UnixLink::send(const vorn_msg_t& request)

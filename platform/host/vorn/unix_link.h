@@ -11,12 +11,14 @@
 
 namespace host {
 
+struct UnixLinks;
+
 /// A thread of its own, from open() to close(), reads and writes the socket: a modem that takes its time holds
 /// up nobody.
 class UnixLink : public Link, private ConnectionEvents {
 public:
-    UnixLink(std::string path, LinkEvents& events) : mPath(std::move(path)), mEvents(events) {}
-    ~UnixLink() override { close(); }
+    UnixLink(std::string path, LinkEvents& events);
+    ~UnixLink() override;
     UnixLink(const UnixLink&) = delete;
     UnixLink& operator=(const UnixLink&) = delete;
 
@@ -28,11 +30,15 @@ public:
 private:
     void received(Connection& connection, MessagePtr message) override;
     void closed(Connection& connection, const std::string& reason) override;
+    void stop();
     void post(const vorn_msg_t& message);
     void sendPosted();
 
+    friend struct UnixLinks;
+
     const std::string mPath;
     LinkEvents& mEvents;
+    UnixLinks& mAll;
 
     std::unique_ptr<asio::io_context> mContext; ///< a new one each time, without what an earlier one left
     std::shared_ptr<Connection> mConnection;
