@@ -1,0 +1,64 @@
+/// What a socket brings, in pieces of the size that the first byte tells: frames that hold a message must hold the
+/// same one when they are written again, and the simulated modem takes each as a request.
+#include "frame_stream.h"
+#include "sim/modem.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+/// Takes what the modem sends as the other side would.
+class Reader : public sim::Output {
+public:
+    void answer(sim::ClientId, sim::Message message) override { writeAgain(*message); }
+    void indicate(sim::Message message) override { writeAgain(*message); }
+    void disconnect(std::chrono::milliseconds) override {}
+
+    static void writeAgain(const vorn_msg_t& message)
+    {
+        std::vector<uint8_t> first;
+        host::Message::of(message).encode(first);
+        const host::MessagePtr read = host::decodeFrame(first);
+        if (!read) {
+            std::abort();
+        }
+        std::vector<uint8_t> second;
+        host::Message::of(*read).encode(second);
+        if (first != second) {
+            std::abort();
+        }
+    }
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    if (size == 0) {
+        return 0;
+    }
+    static Reader reader;
+    static sim::Modem modem(sim::Scenario::builtIn(), reader);
+    static sim::TimePoint now;
+    host::FrameStream stream;
+    std::span<const uint8_t> input(data + 1, size - 1);
+    while (!input.empty() && !stream.isBroken()) {
+        const auto room = stream.room();
+        const size_t piece = std::min({size_t{data[0]} + 1, input.size(), room.size()});
+        std::memcpy(room.data(), input.data(), piece);
+        stream.filled(piece);
+        input = input.subspan(piece);
+        while (const auto frame = stream.next()) {
+            if (const host::MessagePtr message = host::decodeFrame(*frame)) {
+                Reader::writeAgain(*message);
+                modem.receive(0, *message, now);
+            }
+        }
+    }
+    now += std::chrono::seconds(1);
+    modem.advance(now);
+    return 0;
+}

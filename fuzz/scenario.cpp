@@ -1,0 +1,37 @@
+/// Scenario files: refused with a reason, or good for a modem.
+#include "sim/modem.h"
+
+#include <string_view>
+
+namespace {
+
+struct Nobody : sim::Output {
+    void answer(sim::ClientId, sim::Message) override {}
+    void indicate(sim::Message) override {}
+    void disconnect(std::chrono::milliseconds) override {}
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    auto json =
+        nlohmann::json::parse(std::string_view(reinterpret_cast<const char*>(data), size), nullptr, false);
+    if (json.is_discarded()) {
+        return 0;
+    }
+    if (json.is_object()) {
+        json.erase("nvFile"); // the fuzzer's choice of a file to write
+    }
+    try {
+        Nobody nobody;
+        sim::Modem modem(sim::Scenario::fromJson(json), nobody);
+        modem.advance({});
+        if (const auto due = modem.nextDeadline()) {
+            modem.advance(*due);
+        }
+    } catch (const sim::ScenarioError&) {
+        return 0;
+    }
+    return 0;
+}
