@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# install_test.sh BUILD SOURCE CXX: what is installed can be moved, used with CMake and with pkg-config, and run.
+# install_test.sh BUILD SOURCE CXX GENERATOR: what is installed can be moved, used with CMake and with pkg-config, and run.
 set -euo pipefail
-build=$1 source=$2 cxx=$3
+build=$1 source=$2 cxx=$3 generator=$4
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export RADIO_LOG=warn RADIO_DEVICE_ROOT=$work/moved/share/radio_apis/device
@@ -19,7 +19,7 @@ expect_answer() {
     answer=$("$@")
     [ "$answer" = "EARFCN 1300, PCI 44" ] || { echo "$1: $answer"; exit 1; }
 }
-cmake -S "$source/tests/install/find_package" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$work/moved" \
+cmake -G "$generator" -S "$source/tests/install/find_package" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$work/moved" \
     -DCMAKE_CXX_COMPILER="$cxx" -DCLIENT="$source/examples/client/main.cpp" >>"$work/log"
 cmake --build "$work/cmake" >>"$work/log"
 expect_answer "$work/cmake/consumer"
