@@ -1,23 +1,15 @@
 /// What AT commands cost: the parsing of an answer, and a chain of three beside three bare messages.
 #include "at/at_chain_promise.h"
 #include "at/at_cmd_parser.h"
+#include "inputs.h"
 #include "round_trip.h"
 #include "vorn/vorn_msg.h"
 
 namespace {
 
-std::string answerWithFields(int64_t count)
-{
-    std::string text = "\r\n+X: 1";
-    for (int64_t i = 1; i < count; ++i) {
-        text += i % 3 == 0 ? ",\"text\"" : "," + std::to_string(i * 1000);
-    }
-    return text + "\r\n\r\nOK\r\n";
-}
-
 void parseAnswer(benchmark::State& state)
 {
-    const std::string text = answerWithFields(state.range(0));
+    const std::string text = bench::answerWithFields(state.range(0));
     for (auto _ : state) {
         benchmark::DoNotOptimize(AtCmdParser::instance().parserAtCmdResponse(text.c_str()));
     }

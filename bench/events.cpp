@@ -1,4 +1,5 @@
 /// What an event costs: the conversion of a full measurement report, and its way to many listeners.
+#include "inputs.h"
 #include "radio_apis/converters.h"
 #include "vorn/vorn_msg.h"
 
@@ -11,26 +12,6 @@
 
 namespace {
 
-constexpr uint8_t kSubscriptions = 10;
-constexpr size_t kSubscriptionSize = 2172;
-
-/// Every count at its highest: 10 subscriptions, 2 groups, 10 entries, 8 cells.
-std::vector<uint8_t> fullReport()
-{
-    std::vector<uint8_t> report(kSubscriptions * kSubscriptionSize);
-    for (size_t s = 0; s < kSubscriptions; ++s) {
-        uint8_t* subscription = report.data() + s * kSubscriptionSize;
-        subscription[8] = 2;
-        for (uint8_t* group : {subscription + 12, subscription + 1092}) {
-            group[3] = 10;
-            for (size_t entry = 0; entry < 10; ++entry) {
-                group[20 + entry * 106 + 5] = 8;
-            }
-        }
-    }
-    return report;
-}
-
 void ignore(RADIO_EVENT_TYPE, void*, void* data, int)
 {
     benchmark::DoNotOptimize(data);
@@ -38,10 +19,7 @@ void ignore(RADIO_EVENT_TYPE, void*, void* data, int)
 
 void measurementReport(benchmark::State& state)
 {
-    const auto report = fullReport();
-    vorn_msg_t* indication = vorn_msg_init(0x7E03, 1);
-    vorn_msg_add_tlv(indication, 256, 1, &kSubscriptions);
-    vorn_msg_add_tlv(indication, 258, static_cast<uint16_t>(report.size()), report.data());
+    vorn_msg_t* indication = bench::reportIndication();
     for (auto _ : state) {
         vornVsClientNotifyVeyraInfoIndEvent(indication, 0, nullptr, ignore);
     }
@@ -52,8 +30,7 @@ BENCHMARK(measurementReport);
 /// The same bytes copied: those of the report that become cells, and those of the record.
 void copyOfTheSameBytes(benchmark::State& state)
 {
-    const auto report = fullReport();
-    std::vector<uint8_t> from(report.size() + sizeof(RadioVeyraCellInfo));
+    std::vector<uint8_t> from(bench::fullReport().size() + sizeof(RadioVeyraCellInfo));
     std::vector<uint8_t> to(from.size());
     for (auto _ : state) {
         std::memcpy(to.data(), from.data(), from.size());

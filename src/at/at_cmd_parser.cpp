@@ -18,17 +18,35 @@ namespace {
 constexpr char kTag[] = "AtCmdParser";
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// Calls `use` with each piece of `text` between separators; empty pieces too.
+/// Calls `use` with each line of `text`; empty ones too.
 template <typename Use>
-void split(std::string_view text, std::string_view separator, Use use)
+void splitLines(std::string_view text, Use use)
 {
     for (;;) {
-        const size_t end = text.find(separator);
+        const size_t end = text.find(kLineEnd);
         use(text.substr(0, end));
         if (end == std::string_view::npos) {
             return;
         }
-        text.remove_prefix(end + separator.size());
+        text.remove_prefix(end + kLineEnd.size());
+    }
+}
+
+/// Calls `use` with each piece of `text` between commas; empty pieces too. Fields are a few characters long: to
+/// have each one's end searched costs more than to look at them.
+template <typename Use>
+void splitFields(std::string_view text, Use use)
+{
+    const char* begin = text.data();
+    const char* const end = begin + text.size();
+    for (const char* at = begin;; ++at) {
+        if (at == end || *at == ',') {
+            use(std::string_view(begin, static_cast<size_t>(at - begin)));
+            if (at == end) {
+                return;
+            }
+            begin = at + 1;
+        }
     }
 }
 
@@ -45,7 +63,7 @@ Lines linesOf(std::string_view answer)
     Lines lines;
     lines.framed = answer.starts_with(kLineEnd);
     bool first = true;
-    split(answer, kLineEnd, [&](std::string_view line) {
+    splitLines(answer, [&](std::string_view line) {
         const bool keep = first ? !lines.framed : !line.empty();
         first = false;
         if (!keep) {
@@ -90,7 +108,7 @@ void putFields(Parcel& parcel, std::string_view data)
 {
     data = trimmed(data);
     parcel.putInt(static_cast<int32_t>(std::ranges::count(data, ',')) + 1);
-    split(data, ",", [&](std::string_view field) {
+    splitFields(data, [&](std::string_view field) {
         if (const auto number = mindroid::Integer::tryParse(field)) {
             parcel.putByte(AtCmdParser::kInteger);
             parcel.putInt(*number);
@@ -226,7 +244,7 @@ sp<Parcel> AtCmdParser::parserAtcmdData(bool ok, const sp<String>& data) const
 sp<Parcel> AtCmdParser::parserAtcmdData(const sp<String>& data) const
 {
     auto parcel = Parcel::obtain();
-    split(trimmed(data->view()), ",", [&](std::string_view field) {
+    splitFields(trimmed(data->view()), [&](std::string_view field) {
         if (const auto number = mindroid::Integer::tryParse(field)) {
             parcel->putInt(*number);
         } else {

@@ -6,6 +6,7 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <span>
 
 /// Copies what `from` holds, from byte `offset` on, to the front of `to`, as far as both reach.
@@ -16,7 +17,11 @@ template <std::integral Number>
 Number numberAt(std::span<const uint8_t> bytes, size_t offset)
 {
     Number number = 0;
-    copyBytes(bytes, offset, {reinterpret_cast<uint8_t*>(&number), sizeof number});
+    if (sizeof number <= bytes.size() && offset <= bytes.size() - sizeof number) {
+        std::memcpy(&number, bytes.data() + offset, sizeof number); // one load: hundreds are read of a report
+    } else {
+        copyBytes(bytes, offset, {reinterpret_cast<uint8_t*>(&number), sizeof number});
+    }
     return number;
 }
 

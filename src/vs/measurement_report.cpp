@@ -4,6 +4,7 @@
 #include "zor/log.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -104,6 +105,7 @@ void veyra_convert_vorn_cell_detail_info_list(ReportBlock cells, const ReportEnt
         const bool hasPlmn = valid == 1 || valid == 2;
         RadioVeyraCell& out = *cursor.next++;
         ++cursor.produced;
+        std::memset(static_cast<void*>(&out), 0, sizeof out);
         out.rat = entry.rat;
         out.subscription = entry.subscription;
         out.group = hasPlmn ? entry.group : 0;
@@ -177,7 +179,9 @@ void veyra_convert_vorn_info_list_from_ind(ReportBlock subscriptions, ReportCurs
     cursor.next = start;
 }
 
-void convertMeasurementReport(ReportBlock subscriptions, uint8_t count, RadioVeyraCellInfo& out)
+namespace {
+
+void convertCells(ReportBlock subscriptions, uint8_t count, ReportCursor& cursor, uint32_t& counted)
 {
     if (subscriptions.data() == nullptr) {
         zorLogE(kTag, "vorn_vs_veyra_get_data - error");
@@ -188,7 +192,18 @@ void convertMeasurementReport(ReportBlock subscriptions, uint8_t count, RadioVey
         return;
     }
     const uint32_t total = vorn_veyra_count_cell_info_cells_from_ind(subscriptions, count);
-    ReportCursor cursor{out.cells};
     veyra_convert_vorn_info_list_from_ind(subscriptions, cursor, total, count);
-    out.count = std::min(total, kRadioMaxReportCells);
+    counted = std::min(total, kRadioMaxReportCells);
+}
+
+} // namespace
+
+void convertMeasurementReport(ReportBlock subscriptions, uint8_t count, RadioVeyraCellInfo& out)
+{
+    out.count = 0;
+    out.reserved = 0;
+    ReportCursor cursor{out.cells};
+    convertCells(subscriptions, count, cursor, out.count);
+    std::memset(static_cast<void*>(out.cells + cursor.produced), 0,
+                (kRadioMaxReportCells - cursor.produced) * sizeof *out.cells);
 }

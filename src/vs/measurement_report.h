@@ -65,5 +65,5 @@ uint32_t vorn_veyra_convert_collect_info_list_from_ind(ReportBlock subscriptions
 void veyra_convert_vorn_info_list_from_ind(ReportBlock subscriptions, ReportCursor& cursor, uint32_t total,
                                            uint32_t count);
 
-/// The whole report into its event's record, which is all zero before.
+/// The whole report into its event's record, all of which is written: only what no cell fills is cleared.
 void convertMeasurementReport(ReportBlock subscriptions, uint8_t count, RadioVeyraCellInfo& out);

@@ -3,8 +3,8 @@
 #include "mindroid/object.h"
 #include "mindroid/string.h"
 
-#include <charconv>
 #include <functional>
+#include <limits>
 
 namespace mindroid {
 
@@ -45,19 +45,26 @@ size_t String::hashCode() const
 
 std::optional<int32_t> Integer::tryParse(std::string_view text) noexcept
 {
-    if (text.starts_with('+')) {
+    const bool isNegative = text.starts_with('-');
+    if (isNegative || text.starts_with('+')) {
         text.remove_prefix(1);
-        if (text.starts_with('-')) {
+    }
+    if (text.empty()) {
+        return std::nullopt;
+    }
+    constexpr int64_t kHighest = std::numeric_limits<int32_t>::max();
+    const int64_t limit = isNegative ? kHighest + 1 : kHighest;
+    int64_t value = 0;
+    for (const char digit : text) {
+        if (digit < '0' || digit > '9') {
+            return std::nullopt;
+        }
+        value = value * 10 + (digit - '0');
+        if (value > limit) {
             return std::nullopt;
         }
     }
-    int32_t value = 0;
-    const char* end = text.data() + text.size();
-    const auto [next, error] = std::from_chars(text.data(), end, value);
-    if (error != std::errc() || next != end) {
-        return std::nullopt;
-    }
-    return value;
+    return static_cast<int32_t>(isNegative ? -value : value);
 }
 
 int32_t Integer::parseInt(std::string_view text)

@@ -10,8 +10,12 @@ namespace mindroid {
 
 void Parcel::grow(size_t size)
 {
-    constexpr size_t kOrdinaryAnswer = 256;
-    mData.resize(std::max({kOrdinaryAnswer, mData.size() * 2, mEnd + size}));
+    const size_t capacity = std::max(mCapacity * 2, mEnd + size);
+    auto larger = std::make_unique_for_overwrite<uint8_t[]>(capacity);
+    std::copy_n(mData, mEnd, larger.get());
+    mHeap = std::move(larger);
+    mData = mHeap.get();
+    mCapacity = capacity;
 }
 
 void Parcel::checkNext(Kind kind) const
@@ -38,7 +42,7 @@ void Parcel::putString(std::string_view value)
 std::string_view Parcel::getString()
 {
     const auto length = get<uint32_t>(Kind::String);
-    const auto* text = reinterpret_cast<const char*>(mData.data() + mPosition);
+    const auto* text = reinterpret_cast<const char*>(mData + mPosition);
     mPosition += length;
     return {text, length};
 }

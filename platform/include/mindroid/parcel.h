@@ -5,13 +5,17 @@
 
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <string_view>
-#include <vector>
 
 namespace mindroid {
 
 class Parcel : public Object {
 public:
+    Parcel() = default;
+    Parcel(const Parcel&) = delete;
+    Parcel& operator=(const Parcel&) = delete;
+
     static sp<Parcel> obtain() { return make<Parcel>(); }
 
     void putBoolean(bool value) { put(Kind::Boolean, value); }
@@ -34,14 +38,13 @@ private:
     /// Stands in front of every value, so that reading another kind is noticed.
     enum class Kind : uint8_t { Boolean, Byte, Int, String };
 
-    /// Room for `size` more bytes. The buffer is larger than what was written: to grow it value by value
-    /// would cost more than the values do.
+    /// Room for `size` more bytes.
     uint8_t* append(size_t size)
     {
-        if (mData.size() - mEnd < size) {
+        if (mCapacity - mEnd < size) {
             grow(size);
         }
-        uint8_t* place = mData.data() + mEnd;
+        uint8_t* place = mData + mEnd;
         mEnd += size;
         return place;
     }
@@ -59,7 +62,7 @@ private:
     {
         checkNext(kind);
         T value;
-        std::memcpy(&value, mData.data() + mPosition + 1, sizeof value);
+        std::memcpy(&value, mData + mPosition + 1, sizeof value);
         mPosition += 1 + sizeof value;
         return value;
     }
@@ -67,9 +70,14 @@ private:
     void grow(size_t size);
     void checkNext(Kind kind) const;
 
-    std::vector<uint8_t> mData;
+    static constexpr size_t kOrdinaryAnswer = 256;
+
+    uint8_t* mData = mInline; ///< mInline, or mHeap when that is too small
+    size_t mCapacity = kOrdinaryAnswer;
     size_t mEnd = 0; ///< of what was written
     size_t mPosition = 0;
+    std::unique_ptr<uint8_t[]> mHeap;
+    uint8_t mInline[kOrdinaryAnswer]; ///< only what was put is ever read
 };
 
 } // namespace mindroid

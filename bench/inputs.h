@@ -1,0 +1,20 @@
+/// What the benchmarks feed to the library.
+#pragma once
+
+#include "vorn/vorn_msg.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace bench {
+
+std::string answerWithFields(int64_t count);
+
+/// Every count at its highest: 10 subscriptions, 2 groups, 10 entries, 8 cells.
+std::vector<uint8_t> fullReport();
+
+/// The indication that brings it; the caller's.
+vorn_msg_t* reportIndication();
+
+} // namespace bench
