@@ -20,8 +20,8 @@ CASES = [
     ("messageRead3", 350, None),
     ("messageRead10", 800, None),
     ("atAnswer1", 1000, None),
-    ("atAnswer5", 1750, None),
-    ("atAnswer24", 5700, None),
+    ("atAnswer5", 1700, None),
+    ("atAnswer24", 5100, None),
     ("measurementReport", 60000, None),
 ]
 FEW, MANY = 100, 300

@@ -32,22 +32,19 @@ void splitLines(std::string_view text, Use use)
     }
 }
 
-/// Calls `use` with each piece of `text` between commas; empty pieces too. Fields are a few characters long: to
-/// have each one's end searched costs more than to look at them.
+/// Calls `use` with each piece of `text` between commas; empty pieces too.
 template <typename Use>
 void splitFields(std::string_view text, Use use)
 {
     const char* begin = text.data();
     const char* const end = begin + text.size();
-    for (const char* at = begin;; ++at) {
-        if (at == end || *at == ',') {
+    for (const char* at = begin; at != end; ++at) {
+        if (*at == ',') {
             use(std::string_view(begin, static_cast<size_t>(at - begin)));
-            if (at == end) {
-                return;
-            }
             begin = at + 1;
         }
     }
+    use(std::string_view(begin, static_cast<size_t>(end - begin)));
 }
 
 /// The lines of an answer. Only as many are kept as an accepted answer can have; all are counted.
@@ -104,19 +101,40 @@ std::string_view trimmed(std::string_view text)
     return text.substr(begin, text.find_last_not_of(kWhiteSpace) - begin + 1);
 }
 
+void putField(Parcel& parcel, std::string_view field)
+{
+    if (const auto number = mindroid::Integer::tryParse(field)) {
+        parcel.putByte(AtCmdParser::kInteger);
+        parcel.putInt(*number);
+    } else {
+        parcel.putByte(AtCmdParser::kString);
+        parcel.putString(field);
+    }
+}
+
+/// The number of fields goes first. One look at the text counts them and finds the ends of the first ones, which in
+/// most answers are all.
 void putFields(Parcel& parcel, std::string_view data)
 {
     data = trimmed(data);
-    parcel.putInt(static_cast<int32_t>(std::ranges::count(data, ',')) + 1);
-    splitFields(data, [&](std::string_view field) {
-        if (const auto number = mindroid::Integer::tryParse(field)) {
-            parcel.putByte(AtCmdParser::kInteger);
-            parcel.putInt(*number);
-        } else {
-            parcel.putByte(AtCmdParser::kString);
-            parcel.putString(field);
+    std::array<const char*, 32> ends;
+    size_t commas = 0;
+    for (const char& character : data) {
+        if (character == ',') {
+            if (commas < ends.size()) {
+                ends[commas] = &character;
+            }
+            ++commas;
         }
-    });
+    }
+    parcel.putInt(static_cast<int32_t>(commas) + 1);
+    const size_t found = std::min(commas, ends.size());
+    for (size_t i = 0; i < found; ++i) {
+        const auto size = static_cast<size_t>(ends[i] - data.data());
+        putField(parcel, data.substr(0, size));
+        data.remove_prefix(size + 1);
+    }
+    splitFields(data, [&](std::string_view field) { putField(parcel, field); });
 }
 
 void putRawText(Parcel& parcel, std::string_view data)

@@ -4,7 +4,6 @@
 #include "mindroid/string.h"
 
 #include <functional>
-#include <limits>
 
 namespace mindroid {
 
@@ -41,30 +40,6 @@ bool String::equals(const sp<Object>& other) const
 size_t String::hashCode() const
 {
     return std::hash<std::string>()(mText);
-}
-
-std::optional<int32_t> Integer::tryParse(std::string_view text) noexcept
-{
-    const bool isNegative = text.starts_with('-');
-    if (isNegative || text.starts_with('+')) {
-        text.remove_prefix(1);
-    }
-    if (text.empty()) {
-        return std::nullopt;
-    }
-    constexpr int64_t kHighest = std::numeric_limits<int32_t>::max();
-    const int64_t limit = isNegative ? kHighest + 1 : kHighest;
-    int64_t value = 0;
-    for (const char digit : text) {
-        if (digit < '0' || digit > '9') {
-            return std::nullopt;
-        }
-        value = value * 10 + (digit - '0');
-        if (value > limit) {
-            return std::nullopt;
-        }
-    }
-    return static_cast<int32_t>(isNegative ? -value : value);
 }
 
 int32_t Integer::parseInt(std::string_view text)
