@@ -17,7 +17,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-std::binary_semaphore answered(0);
+constexpr int kInFlight = 64;
+
+std::counting_semaphore<> answered(0);
 
 constexpr int kTimesPerPair = 200;
 
@@ -74,6 +76,22 @@ void addInt32(vorn_msg_t* message, uint16_t tag, int32_t value)
     vorn_msg_add_tlv(message, tag, sizeof value, &value);
 }
 
+void waitForAnswers(int count)
+{
+    for (int i = 0; i < count; ++i) {
+        waitForAnswer();
+    }
+}
+
+void sendSarStateStraight()
+{
+    vorn_msg_t* request = vorn_msg_init(0x3895, 1);
+    addInt32(request, 256, 1);
+    addInt32(request, 257, 2);
+    vorn_msg_async_api(request, onAnswer, 0, nullptr);
+    vorn_msg_deinit(request);
+}
+
 void voidRequest(benchmark::State& state)
 {
     comparePairs(
@@ -83,13 +101,47 @@ void voidRequest(benchmark::State& state)
             waitForAnswer();
         },
         [] {
-            vorn_msg_t* request = vorn_msg_init(0x3895, 1);
-            addInt32(request, 256, 1);
-            addInt32(request, 257, 2);
-            sendStraight(request);
+            sendSarStateStraight();
+            waitForAnswer();
         });
 }
 BENCHMARK(voidRequest)->Unit(benchmark::kMillisecond);
+
+/// Of many in flight, what is measured is work, not waiting: to be run on one processor.
+void voidRequestsInFlight(benchmark::State& state)
+{
+    comparePairs(
+        state,
+        [] {
+            for (int i = 0; i < kInFlight; ++i) {
+                radioSetSarState(1, 2, nullptr, onResult);
+            }
+            waitForAnswers(kInFlight);
+        },
+        [] {
+            for (int i = 0; i < kInFlight; ++i) {
+                sendSarStateStraight();
+            }
+            waitForAnswers(kInFlight);
+        });
+}
+BENCHMARK(voidRequestsInFlight)->Unit(benchmark::kMillisecond);
+
+/// Threads that each wait for their answer before they ask again, on so many instances.
+void callers(benchmark::State& state)
+{
+    openLibrary(static_cast<RADIO_SUBS_ID_TYPE>(state.thread_index() % state.range(0)));
+    std::binary_semaphore mine(0);
+    for (auto _ : state) {
+        radioSetSarState(1, 2, &mine, [](void* user, RADIO_APIS_RESULT, RadioApisResultType*) {
+            static_cast<std::binary_semaphore*>(user)->release();
+        });
+        mine.acquire();
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(callers)->ArgName("instances")->Arg(1)->ThreadRange(1, 8)->UseRealTime();
+BENCHMARK(callers)->ArgName("instances")->Arg(3)->Threads(24)->UseRealTime();
 
 void allCells64(benchmark::State& state)
 {
@@ -188,11 +240,13 @@ BENCHMARK(nvRead20480)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
-void openLibrary()
+void openLibrary(RADIO_SUBS_ID_TYPE instance)
 {
-    setenv("RADIO_VORN_DEVICE", ("embedded:" + writeScenario()).c_str(), 0);
-    host::setProperty("ro.vendor.zor_vorn_support", "1");
-    if (radioApisInit(RADIO_APIS_SERVICE_MODEM, 0) != RADIO_APIS_SUCCESS) {
+    static const bool chosen = [] {
+        host::setProperty("ro.vendor.zor_vorn_support", "1");
+        return setenv("RADIO_VORN_DEVICE", ("embedded:" + writeScenario()).c_str(), 0) == 0;
+    }();
+    if (!chosen || radioApisInit(RADIO_APIS_SERVICE_MODEM, instance) != RADIO_APIS_SUCCESS) {
         std::abort();
     }
 }

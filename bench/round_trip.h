@@ -2,17 +2,18 @@
 /// whatever else the machine does.
 #pragma once
 
+#include "radio_apis/radio_apis.h"
 #include "vorn/vorn_msg.h"
 
 #include <benchmark/benchmark.h>
 
-/// Opens the library on the simulated modem in this process.
-void openLibrary();
+/// Opens the library on RADIO_VORN_DEVICE, or on a simulated modem in this process, for the calling thread.
+void openLibrary(RADIO_SUBS_ID_TYPE instance = 0);
 
-/// The answer to the one request in flight came; called from its callback.
+/// The answer to a request came; called from its callback.
 void answerCame();
 
-/// Waits for it.
+/// Waits for one.
 void waitForAnswer();
 
 /// Sends a finished message without the library, frees it and waits for its answer.

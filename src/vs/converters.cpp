@@ -68,7 +68,7 @@ void vornVsClientNotifyVeyraInfoIndEvent(void* indication, int, void* userData, 
     if (indication == nullptr || callback == nullptr) {
         return;
     }
-    RadioVeyraCellInfo record; // NOLINT(cppcoreguidelines-pro-type-member-init): too large to clear in vain
+    RadioVeyraCellInfo record; // the conversion writes all of it: too large to be cleared in vain
     const VornView in(static_cast<vorn_msg_t*>(indication));
     convertMeasurementReport(in.bytes(258), in.getVornUint8Val(256, 0), record);
     zorLogD(kTag, "vornVsClientNotifyNecEvent - RADIO_EVENT_VEYRA_CELL_INFO_IND");

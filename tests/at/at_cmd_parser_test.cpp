@@ -140,6 +140,15 @@ TEST(AtCmdParser, SurvivesAnything)
         fieldsOf(*parcel);
         rawOf(*parser.parserAtCmdResponseAsRawStr(String::valueOf(answer)));
     }
+    for (const int count : {31, 32, 33, 34, 100}) {
+        std::string answer = "+X: 0";
+        std::string expected = "true " + std::to_string(count) + " i0";
+        for (int i = 1; i < count; ++i) {
+            answer += "," + std::to_string(i);
+            expected += " i" + std::to_string(i);
+        }
+        EXPECT_EQ(fieldsOf(*parser.parserAtCmdResponse((answer + "\r\nOK").c_str())), expected);
+    }
     const std::string fields(60000, ',');
     EXPECT_THAT(fieldsOf(*parser.parserAtCmdResponse(("+X: " + fields + "\r\nOK").c_str())),
                 testing::StartsWith("true 60001 s'' s''"));
