@@ -37,7 +37,7 @@ def counted(build, case, times):
             env=environment, check=True, capture_output=True)
         totals = collections.Counter()
         place, is_call = "", False
-        for line in open(out.name, encoding="utf-8"):
+        for line in out.read().decode().splitlines():
             if line.startswith("ob="):
                 place = os.path.basename(line[3:].strip())
             elif line.startswith("calls="):

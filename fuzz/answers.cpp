@@ -7,6 +7,8 @@
 #include "vs/vorn_vs_client.h"
 
 #include <cstdlib>
+#include <functional>
+#include <vector>
 
 namespace {
 
@@ -26,80 +28,61 @@ void onResult(void* calls, RADIO_APIS_RESULT, RadioApisResultType* record)
     static_cast<void>(last);
 }
 
-int gNumbers[] = {1, 2};
-constexpr unsigned char kBytes[] = {1, 2};
+/// Sends a request with fixed arguments.
+using Request = std::function<int(int* calls)>;
 
-/// Every request whose answer is read, and one of those for whom the result is all.
-int send(int request, int* calls)
+template <typename Client, typename... Parameters, typename... Arguments>
+Request asked(int (Client::*method)(Parameters...), Arguments... arguments)
 {
-    static VornVsClient vs(false, 0);
-    static VornRadioClient radio(false, 0);
-    switch (request) {
-    case 0:
-        return vs.getFeatureState(1, calls, onResult);
-    case 1:
-        return vs.getSarDsiState(calls, onResult);
-    case 2:
-        return vs.getPowerStatistics(calls, onResult);
-    case 3:
-        return vs.getModemHeapList(calls, onResult);
-    case 4:
-        return vs.getSimTrayStatus(calls, onResult);
-    case 5:
-        return vs.getSmlStatus(kBytes, 2, calls, onResult);
-    case 6:
-        return vs.getRlkStatus(kBytes, 2, calls, onResult);
-    case 7:
-        return vs.getLteCellInfo(calls, onResult);
-    case 8:
-        return vs.getRRCStatus(calls, onResult);
-    case 9:
-        return vs.getServingCellularCellInfo(calls, onResult);
-    case 10:
-        return vs.getAllCellularCellInfo(calls, onResult);
-    case 11:
-        return vs.getSceneMode(gNumbers, 2, calls, onResult);
-    case 12:
-        return vs.getAtomData(1, 2, gNumbers, 2, calls, onResult);
-    case 13:
-        return vs.getMetricsData(1, 2, 3, gNumbers, 2, calls, onResult);
-    case 14:
-        return vs.getNecData(1, kBytes, 2, calls, onResult);
-    case 15:
-        return vs.getModemProtocolInfo(calls, onResult);
-    case 16:
-        return vs.getModemIndicationPolicy(calls, onResult);
-    case 17:
-        return vs.getIndicationReportRecords(calls, onResult);
-    case 18:
-        return vs.getQosData(1, calls, onResult);
-    case 19:
-        return vs.getRfIccInfo(calls, onResult);
-    case 20:
-        return vs.getNetworkActionState(1, calls, onResult);
-    case 21:
-        return vs.sendScreenState(1, calls, onResult);
-    case 22:
-        return radio.getOperationMode(calls, onResult);
-    case 23:
-        return radio.getMsimSubModeState(calls, onResult);
-    case 24:
-        return radio.readNv(1, 0, calls, onResult);
-    case 25:
-        return radio.getTxCarkit(6, 1, 0, 0, calls, onResult);
-    case 26:
-        return radio.requestIccSimAuthentication({}, calls, onResult);
-    case 27:
-        return radio.getImsRtpRedunCapability(calls, onResult);
-    case 28:
-        return radio.getImsRtpRedunPublicKey({}, calls, onResult);
-    case 29:
-        return radio.getDataActPacketRoute(calls, onResult);
-    case 30:
-        return radio.getDataIfupPacketRoute(calls, onResult);
-    default:
-        return radio.writeNv(1, 0, kBytes, 2, calls, onResult);
-    }
+    return [=](int* calls) {
+        static Client client(false, 0);
+        return (client.*method)(arguments..., calls, onResult);
+    };
+}
+
+int gNumbers[] = {1, 2};
+const unsigned char kBytes[] = {1, 2};
+
+/// Every request whose answer is read, and one of each client for which the result is all.
+const std::vector<Request>& requests()
+{
+    using Vs = VornVsClient;
+    using Radio = VornRadioClient;
+    static const std::vector<Request> all = {
+        asked(&Vs::getFeatureState, 1),
+        asked(&Vs::getSarDsiState),
+        asked(&Vs::getPowerStatistics),
+        asked(&Vs::getModemHeapList),
+        asked(&Vs::getSimTrayStatus),
+        asked(&Vs::getSmlStatus, kBytes, 2U),
+        asked(&Vs::getRlkStatus, kBytes, 2U),
+        asked(&Vs::getLteCellInfo),
+        asked(&Vs::getRRCStatus),
+        asked(&Vs::getServingCellularCellInfo),
+        asked(&Vs::getAllCellularCellInfo),
+        asked(&Vs::getSceneMode, gNumbers, 2U),
+        asked(&Vs::getAtomData, 1, 2, gNumbers, 2U),
+        asked(&Vs::getMetricsData, 1, 2, 3, gNumbers, 2U),
+        asked(&Vs::getNecData, 1, kBytes, 2U),
+        asked(&Vs::getModemProtocolInfo),
+        asked(&Vs::getModemIndicationPolicy),
+        asked(&Vs::getIndicationReportRecords),
+        asked(&Vs::getQosData, 1),
+        asked(&Vs::getRfIccInfo),
+        asked(&Vs::getNetworkActionState, 1),
+        asked(&Vs::sendScreenState, 1),
+        asked(&Radio::getOperationMode),
+        asked(&Radio::getMsimSubModeState),
+        asked(&Radio::readNv, 1, int8_t{0}),
+        asked(&Radio::getTxCarkit, 6, 1, 0, 0),
+        asked(&Radio::requestIccSimAuthentication, RadioUimAuthenticateReqInfo{}),
+        asked(&Radio::getImsRtpRedunCapability),
+        asked(&Radio::getImsRtpRedunPublicKey, RadioImsRtpRedunKeyInfoType{}),
+        asked(&Radio::getDataActPacketRoute),
+        asked(&Radio::getDataIfupPacketRoute),
+        asked(&Radio::writeNv, 1, int8_t{0}, kBytes, 2U),
+    };
+    return all;
 }
 
 } // namespace
@@ -110,7 +93,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         return 0;
     }
     int calls = 0;
-    if (send(data[0] % 32, &calls) != 0) {
+    if (requests()[data[0] % requests().size()](&calls) != 0) {
         std::abort();
     }
     const host::MessagePtr answer(vorn_msg_init(0, 1));

@@ -1,5 +1,6 @@
 /// What a socket brings, in pieces of the size that the first byte tells: frames that hold a message must hold the
 /// same one when they are written again, and the simulated modem takes each as a request.
+#include "command_message.h"
 #include "frame_stream.h"
 #include "sim/modem.h"
 
@@ -54,7 +55,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         while (const auto frame = stream.next()) {
             if (const host::MessagePtr message = host::decodeFrame(*frame)) {
                 Reader::writeAgain(*message);
-                modem.receive(0, *message, now);
+                if (host::isCommand(*message)) {
+                    host::commandFrom(*message);
+                } else {
+                    modem.receive(0, *message, now);
+                }
             }
         }
     }

@@ -65,14 +65,12 @@ void vornVsClientNotifyNecEvent(void* indication, int, void* userData, RadioEven
 
 void vornVsClientNotifyVeyraInfoIndEvent(void* indication, int, void* userData, RadioEventCallback callback)
 {
-    if (indication == nullptr || callback == nullptr) {
-        return;
-    }
-    RadioVeyraCellInfo record; // the conversion writes all of it: too large to be cleared in vain
-    const VornView in(static_cast<vorn_msg_t*>(indication));
-    convertMeasurementReport(in.bytes(258), in.getVornUint8Val(256, 0), record);
-    zorLogD(kTag, "vornVsClientNotifyNecEvent - RADIO_EVENT_VEYRA_CELL_INFO_IND");
-    callback(RADIO_EVENT_VEYRA_CELL_INFO_IND, userData, &record, sizeof record);
+    deliverWrittenEvent<RadioVeyraCellInfo>(
+        RADIO_EVENT_VEYRA_CELL_INFO_IND, indication, userData, callback,
+        [](const VornView& in, RadioVeyraCellInfo& out) {
+            convertMeasurementReport(in.bytes(258), in.getVornUint8Val(256, 0), out);
+            zorLogD(kTag, "vornVsClientNotifyNecEvent - RADIO_EVENT_VEYRA_CELL_INFO_IND");
+        });
 }
 
 void vornVsClientNotifyTestIndEvent(void* indication, int, void* userData, RadioEventCallback callback)

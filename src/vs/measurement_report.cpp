@@ -181,7 +181,8 @@ void veyra_convert_vorn_info_list_from_ind(ReportBlock subscriptions, ReportCurs
 
 namespace {
 
-void convertCells(ReportBlock subscriptions, uint8_t count, ReportCursor& cursor, uint32_t& counted)
+/// How many cells the report counts, as far as a record holds them.
+uint32_t convertCells(ReportBlock subscriptions, uint8_t count, ReportCursor& cursor)
 {
     if (subscriptions.data() == nullptr) {
         zorLogE(kTag, "vorn_vs_veyra_get_data - error");
@@ -189,21 +190,20 @@ void convertCells(ReportBlock subscriptions, uint8_t count, ReportCursor& cursor
     if (count == 0) {
         zorLogD(kTag, "Veyra:_veyra_convert_vorn_cell_info_list totcells:[%d] ", 0);
         zorLogD(kTag, "Veyra:_veyra_convert_vorn_cell_info_list consumed cells:[%d] ", 0);
-        return;
+        return 0;
     }
     const uint32_t total = vorn_veyra_count_cell_info_cells_from_ind(subscriptions, count);
     veyra_convert_vorn_info_list_from_ind(subscriptions, cursor, total, count);
-    counted = std::min(total, kRadioMaxReportCells);
+    return std::min(total, kRadioMaxReportCells);
 }
 
 } // namespace
 
 void convertMeasurementReport(ReportBlock subscriptions, uint8_t count, RadioVeyraCellInfo& out)
 {
-    out.count = 0;
-    out.reserved = 0;
     ReportCursor cursor{out.cells};
-    convertCells(subscriptions, count, cursor, out.count);
+    out.count = convertCells(subscriptions, count, cursor);
+    out.reserved = 0;
     std::memset(static_cast<void*>(out.cells + cursor.produced), 0,
                 (kRadioMaxReportCells - cursor.produced) * sizeof *out.cells);
 }

@@ -27,6 +27,7 @@ inline std::optional<int32_t> Integer::tryParse(std::string_view text) noexcept
     if (text.empty()) {
         return std::nullopt;
     }
+    // std::from_chars takes half as many instructions again for the few digits of an answer's field.
     constexpr int64_t kHighest = std::numeric_limits<int32_t>::max();
     const int64_t limit = isNegative ? kHighest + 1 : kHighest;
     int64_t value = 0;
