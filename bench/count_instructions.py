@@ -19,9 +19,9 @@ CASES = [
     ("messageBuilt3", 900, None),
     ("messageRead3", 350, None),
     ("messageRead10", 800, None),
-    ("atAnswer1", 1000, None),
-    ("atAnswer5", 1700, None),
-    ("atAnswer24", 5100, None),
+    ("atAnswer1", 950, None),
+    ("atAnswer5", 1450, None),
+    ("atAnswer24", 3900, None),
     ("measurementReport", 60000, None),
 ]
 FEW, MANY = 100, 300

@@ -18,35 +18,6 @@ namespace {
 constexpr char kTag[] = "AtCmdParser";
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// Calls `use` with each line of `text`; empty ones too.
-template <typename Use>
-void splitLines(std::string_view text, Use use)
-{
-    for (;;) {
-        const size_t end = text.find(kLineEnd);
-        use(text.substr(0, end));
-        if (end == std::string_view::npos) {
-            return;
-        }
-        text.remove_prefix(end + kLineEnd.size());
-    }
-}
-
-/// Calls `use` with each piece of `text` between commas; empty pieces too.
-template <typename Use>
-void splitFields(std::string_view text, Use use)
-{
-    const char* begin = text.data();
-    const char* const end = begin + text.size();
-    for (const char* at = begin; at != end; ++at) {
-        if (*at == ',') {
-            use(std::string_view(begin, static_cast<size_t>(at - begin)));
-            begin = at + 1;
-        }
-    }
-    use(std::string_view(begin, static_cast<size_t>(end - begin)));
-}
-
 /// The lines of an answer. Only as many are kept as an accepted answer can have; all are counted.
 struct Lines {
     std::array<std::string_view, 3> kept;
@@ -58,20 +29,24 @@ struct Lines {
 Lines linesOf(std::string_view answer)
 {
     Lines lines;
+    if (answer.empty()) {
+        lines.kept[lines.count++] = answer;
+    }
     lines.framed = answer.starts_with(kLineEnd);
-    bool first = true;
-    splitLines(answer, [&](std::string_view line) {
-        const bool keep = first ? !lines.framed : !line.empty();
-        first = false;
-        if (!keep) {
-            return;
+    for (;;) {
+        while (answer.starts_with(kLineEnd)) {
+            answer.remove_prefix(kLineEnd.size());
         }
+        if (answer.empty()) {
+            return lines;
+        }
+        const std::string_view line = answer.substr(0, answer.find(kLineEnd));
         if (lines.count < lines.kept.size()) {
             lines.kept[lines.count] = line;
         }
         ++lines.count;
-    });
-    return lines;
+        answer.remove_prefix(line.size());
+    }
 }
 
 bool saysOk(std::string_view line)
@@ -94,47 +69,95 @@ std::string_view dataOf(std::string_view line)
 std::string_view trimmed(std::string_view text)
 {
     constexpr std::string_view kWhiteSpace = " \t\r\n\v\f";
-    const size_t begin = text.find_first_not_of(kWhiteSpace);
-    if (begin == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(begin, text.find_last_not_of(kWhiteSpace) - begin + 1);
+    text.remove_prefix(std::min(text.find_first_not_of(kWhiteSpace), text.size()));
+    return text.substr(0, text.find_last_not_of(kWhiteSpace) + 1);
 }
 
-void putField(Parcel& parcel, std::string_view field)
+/// Where the text of a field ends, and its value. Two registers hold it.
+struct Field {
+    const char* end;
+    int32_t number;
+    bool isNumber;
+};
+
+/// The field that begins there. Its end and its value come from one look, but for signs and for numbers that may be
+/// too large.
+Field fieldAt(const char* begin, const char* textEnd)
 {
-    if (const auto number = mindroid::Integer::tryParse(field)) {
+    constexpr ptrdiff_t kAlwaysFit = 9;
+    uint32_t number = 0;
+    const char* at = begin;
+    for (; at != textEnd; ++at) {
+        const auto digit = static_cast<uint32_t>(*at) - '0';
+        if (digit > 9) {
+            break;
+        }
+        number = number * 10 + digit;
+    }
+    if ((at == textEnd || *at == ',') && at != begin && at - begin <= kAlwaysFit) {
+        return {at, static_cast<int32_t>(number), true};
+    }
+    at = std::find(at, textEnd, ',');
+    const auto value = mindroid::Integer::tryParse({begin, at});
+    return {at, value.value_or(0), value.has_value()};
+}
+
+/// The fields of a text, one after the other; a text without commas is one field.
+class Fields {
+public:
+    explicit Fields(std::string_view text) : mNext(text.data()), mEnd(mNext + text.size()) {}
+
+    bool atEnd() const { return mNext == nullptr; }
+    const char* next() const { return mNext; }
+
+    Field take()
+    {
+        const Field field = fieldAt(mNext, mEnd);
+        mNext = field.end == mEnd ? nullptr : field.end + 1;
+        return field;
+    }
+
+    /// Of those not yet taken.
+    size_t count() const { return atEnd() ? 0 : static_cast<size_t>(std::count(mNext, mEnd, ',')) + 1; }
+
+private:
+    const char* mNext; ///< null at the end
+    const char* mEnd;
+};
+
+void putField(Parcel& parcel, const char* begin, const Field& field)
+{
+    if (field.isNumber) {
         parcel.putByte(AtCmdParser::kInteger);
-        parcel.putInt(*number);
+        parcel.putInt(field.number);
     } else {
         parcel.putByte(AtCmdParser::kString);
-        parcel.putString(field);
+        parcel.putString({begin, field.end});
     }
 }
 
-/// The number of fields goes first. One look at the text counts them and finds the ends of the first ones, which in
-/// most answers are all.
+/// Their number goes first, so that those of an ordinary answer are read before any is put.
 void putFields(Parcel& parcel, std::string_view data)
 {
     data = trimmed(data);
-    std::array<const char*, 32> ends;
-    size_t commas = 0;
-    for (const char& character : data) {
-        if (character == ',') {
-            if (commas < ends.size()) {
-                ends[commas] = &character;
-            }
-            ++commas;
+    Fields fields(data);
+    std::array<Field, 32> block;
+    const char* begin = data.data();
+    bool isFirst = true;
+    do {
+        size_t read = 0;
+        while (!fields.atEnd() && read < block.size()) {
+            block[read++] = fields.take();
         }
-    }
-    parcel.putInt(static_cast<int32_t>(commas) + 1);
-    const size_t found = std::min(commas, ends.size());
-    for (size_t i = 0; i < found; ++i) {
-        const auto size = static_cast<size_t>(ends[i] - data.data());
-        putField(parcel, data.substr(0, size));
-        data.remove_prefix(size + 1);
-    }
-    splitFields(data, [&](std::string_view field) { putField(parcel, field); });
+        if (isFirst) {
+            parcel.putInt(static_cast<int32_t>(read + fields.count()));
+            isFirst = false;
+        }
+        for (size_t i = 0; i < read; ++i) {
+            putField(parcel, begin, block[i]);
+            begin = block[i].end + 1;
+        }
+    } while (!fields.atEnd());
 }
 
 void putRawText(Parcel& parcel, std::string_view data)
@@ -262,13 +285,15 @@ sp<Parcel> AtCmdParser::parserAtcmdData(bool ok, const sp<String>& data) const
 sp<Parcel> AtCmdParser::parserAtcmdData(const sp<String>& data) const
 {
     auto parcel = Parcel::obtain();
-    splitFields(trimmed(data->view()), [&](std::string_view field) {
-        if (const auto number = mindroid::Integer::tryParse(field)) {
-            parcel->putInt(*number);
+    for (Fields fields(trimmed(data->view())); !fields.atEnd();) {
+        const char* begin = fields.next();
+        const Field field = fields.take();
+        if (field.isNumber) {
+            parcel->putInt(field.number);
         } else {
-            parcel->putString(field);
+            parcel->putString({begin, field.end});
         }
-    });
+    }
     parcel->rewind();
     return parcel;
 }

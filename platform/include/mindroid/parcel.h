@@ -24,7 +24,7 @@ public:
     void putString(std::string_view value);
 
     /// Reading starts again at the first value.
-    void rewind() { mPosition = 0; }
+    void rewind() { mPosition = mBegin; }
     bool atEnd() const { return mPosition == mEnd; }
 
     /// Each get throws ParcelException, and stays where it is, when no value is left or the next one is of
@@ -41,10 +41,10 @@ private:
     /// Room for `size` more bytes.
     uint8_t* append(size_t size)
     {
-        if (mCapacity - mEnd < size) {
+        if (static_cast<size_t>(mLimit - mEnd) < size) {
             grow(size);
         }
-        uint8_t* place = mData + mEnd;
+        uint8_t* place = mEnd;
         mEnd += size;
         return place;
     }
@@ -62,7 +62,7 @@ private:
     {
         checkNext(kind);
         T value;
-        std::memcpy(&value, mData + mPosition + 1, sizeof value);
+        std::memcpy(&value, mPosition + 1, sizeof value);
         mPosition += 1 + sizeof value;
         return value;
     }
@@ -72,10 +72,10 @@ private:
 
     static constexpr size_t kOrdinaryAnswer = 256;
 
-    uint8_t* mData = mInline; ///< mInline, or mHeap when that is too small
-    size_t mCapacity = kOrdinaryAnswer;
-    size_t mEnd = 0; ///< of what was written
-    size_t mPosition = 0;
+    uint8_t* mBegin = mInline; ///< mInline, or mHeap when that is too small
+    uint8_t* mEnd = mInline;   ///< of what was written
+    uint8_t* mLimit = mInline + kOrdinaryAnswer;
+    const uint8_t* mPosition = mInline;
     std::unique_ptr<uint8_t[]> mHeap;
     uint8_t mInline[kOrdinaryAnswer]; ///< only what was put is ever read
 };
