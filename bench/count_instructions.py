@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""count_instructions.py BUILD: instructions of single operations, exactly, and the most that each may take.
+"""count_instructions.py BUILD OUT: instructions of single operations, exactly, and the most that each may take.
 
-Each case runs twice under callgrind, a different number of times; what one time more costs is the difference.
+Each case runs twice under callgrind, a different number of times; what one time more costs is the difference. Writes OUT, a JSON object by case.
 Ends with 1 when a limit is broken.
 """
 
@@ -51,7 +51,7 @@ def counted(build, case, times):
 
 
 def main():
-    build = sys.argv[1]
+    build, out = sys.argv[1:]
     broken = False
     results = {}
     print(f"{'operation':20} {'instructions':>12} {'at most':>9}")
@@ -62,7 +62,7 @@ def main():
         results[case] = {"instructions": cost, "limit": limit}
         broken |= cost > limit
         print(f"{case:20} {cost:12.0f} {limit:9}{'  too many' if cost > limit else ''}")
-    with open(f"{build}/instructions.json", "w", encoding="utf-8") as file:
+    with open(out, "w", encoding="utf-8") as file:
         json.dump(results, file, indent=2)
     return 1 if broken else 0
 

@@ -1,12 +1,12 @@
 #include "round_trip.h"
 
 #include "allocations.h"
+#include "channel/vorn_client.h"
 #include "host/device.h"
 #include "radio_apis/radio_apis.h"
 #include "vorn/vorn_msg.h"
 
-#include <algorithm>
-#include <chrono>
+#include <atomic>
 #include <cstdlib>
 #include <fstream>
 #include <memory>
@@ -15,13 +15,11 @@
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
+constexpr int kTimesPerPair = 200;
 constexpr int kInFlight = 64;
 
 std::counting_semaphore<> answered(0);
-
-constexpr int kTimesPerPair = 200;
+std::atomic<size_t> gReplyAllocations = 0; ///< of the thread that called back last, until then
 
 /// A scenario whose modem has as many neighbours as a record holds.
 std::string writeScenario()
@@ -36,28 +34,6 @@ std::string writeScenario()
     }
     out << "]}]}";
     return file;
-}
-
-double nanosecondsOf(void (*roundTrip)())
-{
-    const auto begin = Clock::now();
-    for (int i = 0; i < kTimesPerPair; ++i) {
-        roundTrip();
-    }
-    return std::chrono::duration<double, std::nano>(Clock::now() - begin).count() / kTimesPerPair;
-}
-
-double median(std::vector<double> values)
-{
-    std::ranges::nth_element(values, values.begin() + static_cast<long>(values.size() / 2));
-    return values[values.size() / 2];
-}
-
-double allocationsOf(void (*roundTrip)())
-{
-    const size_t before = allocationsOfThisThread();
-    roundTrip();
-    return static_cast<double>(allocationsOfThisThread() - before);
 }
 
 void onResult(void*, RADIO_APIS_RESULT, RadioApisResultType*)
@@ -83,6 +59,16 @@ void waitForAnswers(int count)
     }
 }
 
+double replyAllocationsOf(Way roundTrip)
+{
+    roundTrip();
+    const size_t before = gReplyAllocations;
+    for (int i = 0; i < kTimesPerPair; ++i) {
+        roundTrip();
+    }
+    return static_cast<double>(gReplyAllocations - before) / kTimesPerPair;
+}
+
 void sendSarStateStraight()
 {
     vorn_msg_t* request = vorn_msg_init(0x3895, 1);
@@ -94,23 +80,29 @@ void sendSarStateStraight()
 
 void voidRequest(benchmark::State& state)
 {
-    comparePairs(
+    compareRoundTrips(
         state,
         [] {
             radioSetSarState(1, 2, nullptr, onResult);
             waitForAnswer();
         },
-        [] {
-            sendSarStateStraight();
-            waitForAnswer();
-        });
+        bareRoundTrip);
 }
 BENCHMARK(voidRequest)->Unit(benchmark::kMillisecond);
+
+/// The record that an answer fills is cleared before: how much of a round trip that is.
+void clearRecord(benchmark::State& state)
+{
+    openLibrary();
+    comparePairs(
+        state, kTimesPerPair, [] { benchmark::DoNotOptimize(ZeroedResult()); }, bareRoundTrip);
+}
+BENCHMARK(clearRecord)->Unit(benchmark::kMillisecond);
 
 /// Of many in flight, what is measured is work, not waiting: to be run on one processor.
 void voidRequestsInFlight(benchmark::State& state)
 {
-    comparePairs(
+    compareRoundTrips(
         state,
         [] {
             for (int i = 0; i < kInFlight; ++i) {
@@ -145,7 +137,7 @@ BENCHMARK(callers)->ArgName("instances")->Arg(3)->Threads(24)->UseRealTime();
 
 void allCells64(benchmark::State& state)
 {
-    comparePairs(
+    compareRoundTrips(
         state,
         [] {
             radioGetAllCellularCellInfo(nullptr, onResult);
@@ -169,7 +161,7 @@ const RadioActionConfigType& action()
 
 void networkAction128(benchmark::State& state)
 {
-    comparePairs(
+    compareRoundTrips(
         state,
         [] {
             radioSendNetworkAction(action(), nullptr, onResult);
@@ -208,7 +200,7 @@ void writeNvStraight()
 
 void nvWrite20480(benchmark::State& state)
 {
-    comparePairs(
+    compareRoundTrips(
         state,
         [] {
             const auto& data = largestNvItem();
@@ -223,7 +215,7 @@ void nvRead20480(benchmark::State& state)
 {
     openLibrary();
     writeNvStraight();
-    comparePairs(
+    compareRoundTrips(
         state,
         [] {
             radioReadNv(kNvItem, 0, nullptr, onResult);
@@ -253,6 +245,7 @@ void openLibrary(RADIO_SUBS_ID_TYPE instance)
 
 void answerCame()
 {
+    gReplyAllocations = allocationsOfThisThread();
     answered.release();
 }
 
@@ -268,21 +261,17 @@ void sendStraight(vorn_msg_t* request)
     waitForAnswer();
 }
 
-void comparePairs(benchmark::State& state, void (*throughLibrary)(), void (*straight)())
+void bareRoundTrip()
+{
+    sendSarStateStraight();
+    waitForAnswer();
+}
+
+void compareRoundTrips(benchmark::State& state, Way throughLibrary, Way straight)
 {
     openLibrary();
-    std::vector<double> library;
-    std::vector<double> bare;
-    std::vector<double> ratios;
-    for (auto _ : state) {
-        bare.push_back(nanosecondsOf(straight));
-        library.push_back(nanosecondsOf(throughLibrary));
-        ratios.push_back(library.back() / bare.back());
-    }
-    state.counters["library_ns"] = median(library);
-    state.counters["straight_ns"] = median(bare);
-    state.counters["ratio"] = median(ratios);
-    const double bareAllocations = allocationsOf(straight);
-    state.counters["straight_allocs"] = bareAllocations;
-    state.counters["own_allocs"] = allocationsOf(throughLibrary) - bareAllocations;
+    comparePairs(state, kTimesPerPair, throughLibrary, straight);
+    auto& counters = state.counters;
+    counters["library_allocs"] = counters["own_allocs"] - counters["beside_allocs"];
+    counters["library_reply_allocs"] = replyAllocationsOf(throughLibrary) - replyAllocationsOf(straight);
 }

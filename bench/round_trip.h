@@ -1,11 +1,9 @@
-/// Requests through the library and straight through the message library, in turns, so that their ratio holds
-/// whatever else the machine does.
+/// Requests through the library, and the same ones straight through the message library.
 #pragma once
 
+#include "pairs.h"
 #include "radio_apis/radio_apis.h"
 #include "vorn/vorn_msg.h"
-
-#include <benchmark/benchmark.h>
 
 /// Opens the library on RADIO_VORN_DEVICE, or on a simulated modem in this process, for the calling thread.
 void openLibrary(RADIO_SUBS_ID_TYPE instance = 0);
@@ -19,6 +17,9 @@ void waitForAnswer();
 /// Sends a finished message without the library, frees it and waits for its answer.
 void sendStraight(vorn_msg_t* request);
 
-/// Measures two ways of doing the same: time and heap allocations of each on the sending thread, and the
-/// ratio of the times. Each way waits for what it sends.
-void comparePairs(benchmark::State& state, void (*throughLibrary)(), void (*straight)());
+/// A request of two numbers without the library, and the wait for its answer.
+void bareRoundTrip();
+
+/// comparePairs with an open library, of ways that wait for what they send. Also counts what the library takes from the
+/// heap: "library_allocs" on the calling thread, "library_reply_allocs" on the thread that calls back.
+void compareRoundTrips(benchmark::State& state, Way throughLibrary, Way straight);

@@ -3,7 +3,6 @@
 #include "vs/vs_request.h"
 
 #include <cstring>
-#include <memory>
 
 using vs::kTag;
 
@@ -63,18 +62,17 @@ void copyList(const RadioActionCellList& in, vorn_vs_action_cell_list_s_type& ou
     }
 }
 
-std::unique_ptr<vorn_vs_action_cells_s_type> cellsOf(const RadioActionConfigType& action)
+/// Fills a zeroed block.
+void copyCells(const RadioActionConfigType& action, vorn_vs_action_cells_s_type& cells)
 {
-    auto cells = std::make_unique<vorn_vs_action_cells_s_type>(); // all zero
-    cells->header = action.header;
-    cells->headerByte = action.headerByte;
-    cells->optionalPresent = action.optionalPresent;
+    cells.header = action.header;
+    cells.headerByte = action.headerByte;
+    cells.optionalPresent = action.optionalPresent;
     if (action.optionalPresent != 0) {
-        cells->optional = action.optional;
+        cells.optional = action.optional;
     }
-    copyList(action.first, cells->first);
-    copyList(action.second, cells->second);
-    return cells;
+    copyList(action.first, cells.first);
+    copyList(action.second, cells.second);
 }
 
 } // namespace
@@ -99,8 +97,9 @@ int VornVsClient::sendNetworkAction(const RadioActionConfigType& action, void* u
     }
     addRecords(*request, 262, action.parameters, action.parameterCount);
     if (action.cellsPresent != 0) {
-        const auto cells = cellsOf(action);
-        request->addVornTlv(263, sizeof *cells, cells.get());
+        vorn_vs_action_cells_s_type cells{};
+        copyCells(action, cells);
+        request->addVornTlv(263, sizeof cells, &cells);
     }
     return send(request, userData, cb, processVoidResponseMsg);
 }
