@@ -24,7 +24,7 @@ std::atomic<size_t> gReplyAllocations = 0; ///< of the thread that called back l
 /// A scenario whose modem has as many neighbours as a record holds.
 std::string writeScenario()
 {
-    const std::string file = "/tmp/radio_bench_scenario.json";
+    std::string file = "/tmp/radio_bench_scenario.json";
     std::ofstream out(file);
     out << R"({"slots": [{"neighbours": [)";
     for (int i = 0; i < 64; ++i) {

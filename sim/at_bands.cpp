@@ -188,7 +188,7 @@ constexpr AtRule kActiveTechnologies[] = {{AtRule::Type::Number, 0, 2}, {AtRule:
 constexpr AtRule kTransmitAntenna[] = {
     {AtRule::Type::Number, 0, 6}, {AtRule::Type::Number, 0, 127}, {AtRule::Type::Number, 0, 127, true}};
 
-constexpr AtCommand kCommands[] = {
+constexpr AtCommand kBandCommands[] = {
     {.name = "+EPBSE", .set = setMasks, .query = queryMasks, .test = testMasks},
     {.name = "+EPBSEH", .set = setHex, .query = queryHex, .test = testHex},
     {.name = "+ECBANDCFG", .set = setBandClasses, .query = queryBandClasses},
@@ -230,7 +230,7 @@ AtReply countTransmitPaths(const AtCall& call)
 
 std::span<const AtCommand> bandCommands()
 {
-    return kCommands;
+    return kBandCommands;
 }
 
 } // namespace sim

@@ -138,7 +138,7 @@ AtReply setSlotsOn(const AtCall& call)
 {
     Slot& slot = call.slot;
     const std::string before = queryableMode(slot);
-    const AtReply reply = setStored(call);
+    AtReply reply = setStored(call);
     if (reply.result == AtResult::Ok) {
         slot.modeBefore = before;
         slot.modeKnownFrom = slot.now + slot.modeChangeTime;
@@ -170,7 +170,7 @@ constexpr AtRule kErrorMode[] = {{Type::Number, 0, 2, true}};
 constexpr AtRule kFunctionality[] = {{Type::Number, 0, 127}, {Type::Number, 0, 1, true}};
 constexpr AtRule kOperationMode[] = {{Type::Number, 0, 3}};
 
-constexpr AtCommand kCommands[] = {
+constexpr AtCommand kGeneralCommands[] = {
     {.name = "", .execute = ok},
     {.name = "E", .execute = setEcho, .rules = kEcho, .initial = "0"},
     {.name = "+CMEE",
@@ -200,7 +200,7 @@ constexpr AtCommand kCommands[] = {
 const AtCommand* findAtCommand(std::string_view name)
 {
     for (const std::span<const AtCommand> table :
-         {std::span<const AtCommand>(kCommands), bandCommands(), configurationCommands()}) {
+         {std::span<const AtCommand>(kGeneralCommands), bandCommands(), configurationCommands()}) {
         const auto found = std::ranges::find(table, name, &AtCommand::name);
         if (found != table.end()) {
             return &*found;

@@ -110,7 +110,7 @@ AtReply setByKey(const AtCall& call)
 /// +ECACOMB=1,LIST,"COMBINATIONS",1: "reset" empties the list.
 AtReply setCombinations(const AtCall& call)
 {
-    const AtReply reply = setByKey(call);
+    AtReply reply = setByKey(call);
     if (reply.result == AtResult::Ok && call.parameters[2].text == "reset") {
         call.slot.at.erase("+ECACOMB " + call.parameters[1].text);
     }
@@ -173,7 +173,7 @@ constexpr AtRule kIdentity[] = {{Type::Number, 1, 1}, {Type::Number, 9, 9}, {Typ
 constexpr AtRule kUserCapabilities[] = {{Type::Number, 2, 2}, kAnyOptional, kText, kText,
                                         kAnyOptional,         kAnyOptional};
 
-constexpr AtCommand kCommands[] = {
+constexpr AtCommand kConfigurationCommands[] = {
     {.name = "+EGMC", .set = configureModem},
     {.name = "+ESBP", .set = configureSwitch},
     {.name = "+ECFGSET", .set = setByKey, .rules = kProvisioning},
@@ -216,7 +216,7 @@ constexpr AtCommand kCommands[] = {
 
 std::span<const AtCommand> configurationCommands()
 {
-    return kCommands;
+    return kConfigurationCommands;
 }
 
 } // namespace sim

@@ -6,9 +6,9 @@ string(REGEX REPLACE "((0x..,)(0x..,)(0x..,)(0x..,)(0x..,)(0x..,)(0x..,)(0x..,))
 file(WRITE ${OUTPUT} "#include \"embedded.h\"
 
 namespace {
-constexpr char kBytes[] = {
+constexpr char ${NAME}Bytes[] = {
 ${bytes}};
 } // namespace
 
-const std::string_view sim::embedded::${NAME}{kBytes, sizeof(kBytes)};
+const std::string_view sim::embedded::${NAME}{${NAME}Bytes, sizeof(${NAME}Bytes)};
 ")

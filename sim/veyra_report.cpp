@@ -96,7 +96,7 @@ Bytes veyraSubscription(const Slot& slot)
 {
     const Cells others = measured(slot, false);
     Bytes block;
-    append(block, static_cast<uint64_t>(slot.number + 1));
+    append(block, static_cast<uint64_t>(slot.number) + 1);
     append(block, uint32_t{others.empty() ? 1U : 2U});
     append(block, groupOf(measured(slot, true), slot.plmn));
     append(block, groupOf(others, slot.plmn));

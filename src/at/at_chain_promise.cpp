@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr char kTag[] = "AtChainPromise";
+constexpr char kChainTag[] = "AtChainPromise";
 
 } // namespace
 
@@ -30,7 +30,7 @@ void processRadioException(const mindroid::sp<RadioApiCallback>& cb, void* userD
         result = cause->getResult();
         message = cause->what();
     }
-    zorLogE(kTag, "processRadioException: %s", message);
+    zorLogE(kChainTag, "processRadioException: %s", message);
     if (cb) {
         cb->call(userData, result, &record);
     }

@@ -15,7 +15,7 @@ using mindroid::String;
 
 namespace {
 
-constexpr char kTag[] = "AtCmdParser";
+constexpr char kParserTag[] = "AtCmdParser";
 constexpr std::string_view kLineEnd = "\r\n";
 
 /// The lines of an answer. Only as many are kept as an accepted answer can have; all are counted.
@@ -176,7 +176,7 @@ constexpr Form kRawText = {"parserAtCmdResponseRawStr", putRawText};
 
 void putRefused(Parcel& parcel, const Form& form)
 {
-    Log::d(kTag, "%s put false", form.name);
+    Log::d(kParserTag, "%s put false", form.name);
     parcel.putBoolean(false);
 }
 
@@ -190,10 +190,10 @@ void parseInto(Parcel& parcel, std::string_view answer, const Form& form)
 {
     const Lines lines = linesOf(answer);
     const auto& line = lines.kept;
-    Log::d(kTag, "%s length = %lu", form.name,
+    Log::d(kParserTag, "%s length = %lu", form.name,
            static_cast<unsigned long>(lines.count + (lines.framed ? 1 : 0)));
     if (lines.count == 1 || lines.count == 2) {
-        Log::d(kTag, "parserAtCmdResponse %.*s", static_cast<int>(line[0].size()), line[0].data());
+        Log::d(kParserTag, "parserAtCmdResponse %.*s", static_cast<int>(line[0].size()), line[0].data());
     }
     switch (lines.count) {
     case 1:
@@ -216,7 +216,8 @@ void parseInto(Parcel& parcel, std::string_view answer, const Form& form)
         break;
     default:
         parcel.putBoolean(false);
-        Log::e(kTag, "parserAtCmdResponse not support length = %lu", static_cast<unsigned long>(lines.count));
+        Log::e(kParserTag, "parserAtCmdResponse not support length = %lu",
+               static_cast<unsigned long>(lines.count));
     }
 }
 
@@ -233,7 +234,7 @@ sp<Parcel> parse(const Form& form, const sp<String>& answer)
     try {
         return parse(form, answer->view());
     } catch (const mindroid::Exception& exception) {
-        Log::e(kTag, "%s meet exception = %s", form.name, exception.what());
+        Log::e(kParserTag, "%s meet exception = %s", form.name, exception.what());
     }
     auto parcel = Parcel::obtain();
     parcel->putBoolean(false);

@@ -12,8 +12,8 @@ using mindroid::sp;
 
 namespace {
 
-constexpr int kLte = 13; ///< numbers of this file's receive level requests only
-constexpr int kNr = 20;
+constexpr int kQrxlvminLte = 13; ///< other numbers than elsewhere
+constexpr int kQrxlvminNr = 20;
 
 /// Reads the last `wanted` of exactly `parts` pieces, which must be numbers.
 bool readLevels(const sp<Parcel>& answer, size_t parts, size_t wanted, const char* error, int32_t* values)
@@ -40,8 +40,9 @@ RADIO_APIS_RESULT onLteLevels(const sp<Parcel>& answer, RadioApisResultType* res
     if (!readLevels(answer, 5, 3, "invalid param lte, split error!", q)) {
         return RADIO_APIS_FAILURE;
     }
-    zorLogD(kTag, "%s: lte qrxlvminRsp rat:%d, is: %d,%d,%d", "getQrxlvminCfg", kLte, q[0], q[1], q[2]);
-    result->rsp.qrxlvmin.rat = kLte;
+    zorLogD(kTag, "%s: lte qrxlvminRsp rat:%d, is: %d,%d,%d", "getQrxlvminCfg", kQrxlvminLte, q[0], q[1],
+            q[2]);
+    result->rsp.qrxlvmin.rat = kQrxlvminLte;
     std::ranges::copy(q, result->rsp.qrxlvmin.values);
     return RADIO_APIS_SUCCESS;
 }
@@ -52,9 +53,9 @@ RADIO_APIS_RESULT onNrLevels(const sp<Parcel>& answer, RadioApisResultType* resu
     if (!readLevels(answer, 7, 6, "invalid param nr, split error!", q)) {
         return RADIO_APIS_FAILURE;
     }
-    zorLogD(kTag, "%s : qrxlvminRsp nr rat:%d, is: %d,%d,%d,%d,%d,%d", "getQrxlvminCfg", kNr, q[0], q[1],
-            q[2], q[3], q[4], q[5]);
-    result->rsp.qrxlvmin.rat = kNr;
+    zorLogD(kTag, "%s : qrxlvminRsp nr rat:%d, is: %d,%d,%d,%d,%d,%d", "getQrxlvminCfg", kQrxlvminNr, q[0],
+            q[1], q[2], q[3], q[4], q[5]);
+    result->rsp.qrxlvmin.rat = kQrxlvminNr;
     std::ranges::copy(q, result->rsp.qrxlvmin.values);
     return RADIO_APIS_SUCCESS;
 }
@@ -97,10 +98,10 @@ int VornAtClient::getQrxlvminCfg(int rat, void* userData, RadioRequestCallback c
 {
     zorLogD(kTag, "%s: ENTER, rat:%d", __func__, rat);
     switch (rat) {
-    case kLte:
+    case kQrxlvminLte:
         return sendAtCommandRspRawStr("AT+EGMC=0,\"customize_q_rxlv_min\"", userData, cb,
                                       mindroid::make<AtResponseCallback>(onLteLevels));
-    case kNr:
+    case kQrxlvminNr:
         return sendAtCommandRspRawStr("AT+EGMC=0,\"EGMC_NRRC_CAMP_ON_CRITERIA\"", userData, cb,
                                       mindroid::make<AtResponseCallback>(onNrLevels));
     default:

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr char kTag[] = "RpcClient";
+constexpr char kRpcTag[] = "RpcClient";
 
 } // namespace
 
@@ -26,7 +26,7 @@ int RpcClient::init()
 int RpcClient::registerRadioApisEvent(void* userData, RadioServiceCallback callback)
 {
     if (!mServiceListeners.add({callback, userData})) {
-        __android_log_print(ANDROID_LOG_DEBUG, kTag, "registerRadioApisEvent already in list");
+        __android_log_print(ANDROID_LOG_DEBUG, kRpcTag, "registerRadioApisEvent already in list");
     }
     return 0;
 }
@@ -34,11 +34,11 @@ int RpcClient::registerRadioApisEvent(void* userData, RadioServiceCallback callb
 int RpcClient::registerRadioEvent(RADIO_EVENT_TYPE event, void* userData, RadioEventCallback callback)
 {
     if (event < mLowestEvent || event > mHighestEvent) {
-        __android_log_print(ANDROID_LOG_ERROR, kTag, "registerEvent error, invalid eventId %d", event);
+        __android_log_print(ANDROID_LOG_ERROR, kRpcTag, "registerEvent error, invalid eventId %d", event);
         return RADIO_APIS_FAILURE;
     }
     if (!mEventListeners.add({callback, event, userData})) {
-        __android_log_print(ANDROID_LOG_DEBUG, kTag, "registerRadioEvent already in list");
+        __android_log_print(ANDROID_LOG_DEBUG, kRpcTag, "registerRadioEvent already in list");
     }
     return 0;
 }
@@ -90,7 +90,7 @@ void RpcClient::notifyEventForAllClient(unsigned int msgId, void* indication, un
     }
     const RADIO_EVENT_TYPE event = rpcEventMap(static_cast<int>(msgId));
     if (event == RADIO_EVENT_NONE) {
-        __android_log_print(ANDROID_LOG_ERROR, kTag,
+        __android_log_print(ANDROID_LOG_ERROR, kRpcTag,
                             "notifyEventForAllClient : can not find the maped event");
         return;
     }

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr char kTag[] = "VornChannelClient";
+constexpr char kChannelTag[] = "VornChannelClient";
 constexpr char kStatusLibrary[] = "libkst.so";
 constexpr char kDeviceFile[] = "/odm/etc/vorn_device_config.xml";
 constexpr char kDefaultDevice[] = "/dev/ttyCVORN8";
@@ -45,13 +45,13 @@ void openStatusLibrary()
         statusLibrary.handle = dlopen(kStatusLibrary, RTLD_LAZY);
     }
     if (statusLibrary.handle == nullptr) {
-        zorLogW(kTag, "VornVsClient::VornVsClient : open %s fail", kStatusLibrary);
+        zorLogW(kChannelTag, "VornVsClient::VornVsClient : open %s fail", kStatusLibrary);
         return;
     }
     lookUp(statusLibrary.init, "libkst_init");
     lookUp(statusLibrary.deinit, "libkst_deinit");
     lookUp(statusLibrary.registerEvent, "libkst_md_event_register");
-    zorLogD(kTag, "VornVsClient::VornVsClient : open %s success", kStatusLibrary);
+    zorLogD(kChannelTag, "VornVsClient::VornVsClient : open %s success", kStatusLibrary);
 }
 
 void copyDeviceName(char* to, const char* from)
@@ -71,7 +71,7 @@ VornChannelClient::VornChannelClient(bool flag) : RpcClient(flag, 0)
     char parsed[kDeviceNameSize];
     const bool found = parseVornDeviceName(hardware, parsed);
     copyDeviceName(mVornDeviceName.data(), found ? parsed : kDefaultDevice);
-    zorLogD(kTag, "mVornDeviceName is %s", mVornDeviceName.data());
+    zorLogD(kChannelTag, "mVornDeviceName is %s", mVornDeviceName.data());
 }
 
 VornChannelClient::~VornChannelClient()
@@ -111,7 +111,7 @@ bool VornChannelClient::isVornSupport()
     char support[kPropertySize];
     zor_property_get(kSupportProperty, support, "0");
     if (std::strcmp(support, "1") != 0) {
-        zorLogE(kTag, "VORN is not supportted, zor_vorn_support=%s", support);
+        zorLogE(kChannelTag, "VORN is not supportted, zor_vorn_support=%s", support);
         return false;
     }
     return true;
@@ -119,7 +119,7 @@ bool VornChannelClient::isVornSupport()
 
 int VornChannelClient::init()
 {
-    zorLogD(kTag, "VornChannelClient::init enter");
+    zorLogD(kChannelTag, "VornChannelClient::init enter");
     if (mInitialised) {
         return RADIO_APIS_SUCCESS;
     }
@@ -128,7 +128,7 @@ int VornChannelClient::init()
     }
     SETCOM(mVornDeviceName.data());
     if (vorn_init_debug("subsys-daemon") < 0) {
-        zorLogE(kTag, "VornVsClient::init call vorn_init_debug error");
+        zorLogE(kChannelTag, "VornVsClient::init call vorn_init_debug error");
         return RADIO_APIS_FAILURE;
     }
     mInitialised = true;
@@ -137,17 +137,17 @@ int VornChannelClient::init()
 
 int VornChannelClient::registerRadioApisEvent(void* userData, RadioServiceCallback callback)
 {
-    zorLogD(kTag, "registerRadioApisEvent enter");
+    zorLogD(kChannelTag, "registerRadioApisEvent enter");
     RpcClient::registerRadioApisEvent(userData, callback);
     if (mStatusSubscribed.exchange(true)) {
         return 0;
     }
-    zorLogD(kTag, "registerRadioApisEvent kst register");
+    zorLogD(kChannelTag, "registerRadioApisEvent kst register");
     if (statusLibrary.registerEvent == nullptr) {
         openStatusLibrary();
     }
     if (statusLibrary.registerEvent == nullptr) {
-        zorLogW(kTag, "registerRadioApisEvent : no modem status without %s", kStatusLibrary);
+        zorLogW(kChannelTag, "registerRadioApisEvent : no modem status without %s", kStatusLibrary);
         mStatusSubscribed = false;
         return 0;
     }
@@ -169,7 +169,8 @@ void mdStatusEventCb(void* client, md_status_event* event)
     if (client == nullptr) {
         return;
     }
-    zorLogD(kTag, "VornChannelClient::mdStatusEventCb : mdStatusEvent %d", static_cast<int>(event->event));
+    zorLogD(kChannelTag, "VornChannelClient::mdStatusEventCb : mdStatusEvent %d",
+            static_cast<int>(event->event));
     auto* channel = static_cast<VornChannelClient*>(client);
     if (event->event == kModemUp) {
         channel->radioApiEventCall(RADIO_APIS_SERVICE_MODEM, RAPIS_CONNECTED);

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr char kTag[] = "VornClient";
+constexpr char kClientTag[] = "VornClient";
 
 } // namespace
 
@@ -37,21 +37,21 @@ int VornClient::sendAsyncRequest(vorn_msg_t* request, std::unique_ptr<RadioApisA
         static_cast<void>(context.release());
         return RADIO_APIS_SUCCESS;
     }
-    zorLogE(kTag, "error - sendAsyncRequest VORN_VS_SEND_SCREEN_STATE_REQ ret %d", result);
+    zorLogE(kClientTag, "error - sendAsyncRequest VORN_VS_SEND_SCREEN_STATE_REQ ret %d", result);
     return RADIO_APIS_FAILURE;
 }
 
 void vornResponseCallback(vorn_msg_t* response, void* user)
 {
-    zorLogD(kTag, "%s - enter", __func__);
+    zorLogD(kClientTag, "%s - enter", __func__);
     const std::unique_ptr<RadioApisAsyncData> context(static_cast<RadioApisAsyncData*>(user));
     const uint32_t result = VornView(response).getResult();
     if (!context) {
-        zorLogE(kTag, "%s invalid user data or callback", __func__);
+        zorLogE(kClientTag, "%s invalid user data or callback", __func__);
         return;
     }
     if (result != 0 && context->resultCallback) {
-        zorLogE(kTag, "vornResponseCallback - fail to send async vorn req msg. result=%d",
+        zorLogE(kClientTag, "vornResponseCallback - fail to send async vorn req msg. result=%d",
                 static_cast<int>(result));
         const auto mapped =
             VornClient::VornResultToRadioApiResult(static_cast<vorn_result_const_enum>(result));
@@ -66,7 +66,7 @@ void vornResponseCallback(vorn_msg_t* response, void* user)
 void VornClient::processVoidResponseMsg(void* response, unsigned int, RadioApisAsyncData* context)
 {
     if (response == nullptr || context == nullptr) {
-        zorLogE(kTag, "%s : invalid vorn response", __func__);
+        zorLogE(kClientTag, "%s : invalid vorn response", __func__);
         return;
     }
     ZeroedResult record;
@@ -93,7 +93,7 @@ RADIO_APIS_RESULT VornClient::VornResultToRadioApiResult(vorn_result_const_enum 
     default:
         break;
     }
-    zorLogD(kTag, "VornResultToRadioApiResult vornResult %d, radio result %d", vornResult, result);
+    zorLogD(kClientTag, "VornResultToRadioApiResult vornResult %d, radio result %d", vornResult, result);
     return result;
 }
 
@@ -102,7 +102,8 @@ bool VornClient::registerVornIndMsg(int msgId)
     const int result = vorn_msg_register_ind_api(changeToVornSlotId(mInstance), static_cast<uint16_t>(msgId),
                                                  vornIndCallback, 0, this);
     if (result < 0) {
-        zorLogE(kTag, "error - registerVornIndMsg slotId:%d, msgId:0x%04x, ret:%d", mInstance, msgId, result);
+        zorLogE(kClientTag, "error - registerVornIndMsg slotId:%d, msgId:0x%04x, ret:%d", mInstance, msgId,
+                result);
     }
     return result >= 0;
 }
@@ -112,7 +113,7 @@ bool VornClient::deregisterVornIndMsg(int msgId)
     const int result =
         vorn_msg_unregister_ind_api(changeToVornSlotId(mInstance), static_cast<uint16_t>(msgId));
     if (result < 0) {
-        zorLogE(kTag, "error - deregisterVornIndMsg slotId:%d, msgId:0x%04x, ret:%d", mInstance, msgId,
+        zorLogE(kClientTag, "error - deregisterVornIndMsg slotId:%d, msgId:0x%04x, ret:%d", mInstance, msgId,
                 result);
     }
     return result >= 0;
@@ -144,9 +145,9 @@ bool VornClient::switchOn(const char* tag, int msgId)
 
 void vornIndCallback(vorn_msg_t* indication, void* client)
 {
-    zorLogD(kTag, "%s - enter", __func__);
+    zorLogD(kClientTag, "%s - enter", __func__);
     const VornView view(indication);
-    zorLogD(kTag, "vornIndMsgId:0x%x, slot:%x", view.getVornMsgId(),
+    zorLogD(kClientTag, "vornIndMsgId:0x%x, slot:%x", view.getVornMsgId(),
             static_cast<unsigned int>(view.getSlotId()));
     if (client != nullptr) {
         static_cast<VornClient*>(client)->onVornEventCallback(indication);
@@ -156,7 +157,7 @@ void vornIndCallback(vorn_msg_t* indication, void* client)
 void VornClient::onVornEventCallback(vorn_msg_t* indication)
 {
     const uint16_t msgId = VornView(indication).getVornMsgId();
-    zorLogD(kTag, "%s - enter. msgId=%d", __func__, msgId);
+    zorLogD(kClientTag, "%s - enter. msgId=%d", __func__, msgId);
     if (hasHandlerMap()) {
         notifyEventForAllClient(msgId, indication, 0);
     }

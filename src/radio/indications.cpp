@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr char kTag[] = "VornRadioClientEvent";
+constexpr char kEventTag[] = "VornRadioClientEvent";
 
 } // namespace
 
@@ -17,7 +17,7 @@ void vornRadioClientNotifyNwEtxPwrEvent(void* indication, int, void* userData, R
                                       // 64 bits on the way: the modem's extremes wrap instead of overflowing.
                                       out.txPower =
                                           static_cast<int32_t>(int64_t{in.getVornInt32Val(257, 0)} / 8 * 100);
-                                      zorLogD(kTag, "%s : radioEvent.event.etxPwr.txPower=%d",
+                                      zorLogD(kEventTag, "%s : radioEvent.event.etxPwr.txPower=%d",
                                               "vornRadioClientNotifyNwEtxPwrEvent", out.txPower);
                                   });
 }
@@ -26,7 +26,8 @@ void vornRadioClientNotifyMsimSubModeEvent(void* indication, int, void* userData
 {
     deliverEvent<RadioMsimSubMode>(RADIO_EVENT_MSIM_SUB_MODE, indication, userData, callback,
                                    [](const VornView& in, RadioMsimSubMode& out) {
-                                       zorLogD(kTag, "%s - enter", "vornRadioClientNotifyMsimSubModeEvent");
+                                       zorLogD(kEventTag, "%s - enter",
+                                               "vornRadioClientNotifyMsimSubModeEvent");
                                        out.subMode = in.getVornUint8Val(257, 0) + 2;
                                        out.state = in.getVornUint8Val(258, 0) == 1 ? 2 : 1;
                                    });
@@ -40,7 +41,7 @@ void vornRadioClientNotifyDataIfupPacketRouteEvent(void* indication, int, void* 
     deliverEvent<RadioDataIfupPacketRoute>(
         RADIO_EVENT_DATA_IFUP_PACKET_ROUTE, indication, userData, callback,
         [](const VornView& in, RadioDataIfupPacketRoute& out) {
-            zorLogD(kTag, "%s - enter", "vornRadioClientNotifyDataIfupPacketRouteEvent");
+            zorLogD(kEventTag, "%s - enter", "vornRadioClientNotifyDataIfupPacketRouteEvent");
             for (uint16_t i = 0; i < 4; ++i) {
                 out.values[i] = in.getVornUint8Val(static_cast<uint16_t>(256 + i), 0);
             }
@@ -50,15 +51,15 @@ void vornRadioClientNotifyDataIfupPacketRouteEvent(void* indication, int, void* 
 void vornRadioClientNotifyCallRtpSessionMlcEvent(void* indication, int, void* userData,
                                                  RadioEventCallback callback)
 {
-    deliverEvent<RadioCallRtpSessionMlc>(RADIO_EVENT_CALL_RTP_SESSION_MLC, indication, userData, callback,
-                                         [](const VornView& in, RadioCallRtpSessionMlc& out) {
-                                             constexpr char kName[] =
-                                                 "vornRadioClientNotifyCallRtpSessionMlcEvent";
-                                             zorLogD(kTag, "%s - enter", kName);
-                                             out.event = in.getVornUint8Val(256, 0);
-                                             out.id = in.getVornInt32Val(257, 0);
-                                             zorLogD(kTag, "%s - event:%d, id:%d", kName, out.event, out.id);
-                                         });
+    deliverEvent<RadioCallRtpSessionMlc>(
+        RADIO_EVENT_CALL_RTP_SESSION_MLC, indication, userData, callback,
+        [](const VornView& in, RadioCallRtpSessionMlc& out) {
+            constexpr char kName[] = "vornRadioClientNotifyCallRtpSessionMlcEvent";
+            zorLogD(kEventTag, "%s - enter", kName);
+            out.event = in.getVornUint8Val(256, 0);
+            out.id = in.getVornInt32Val(257, 0);
+            zorLogD(kEventTag, "%s - event:%d, id:%d", kName, out.event, out.id);
+        });
 }
 
 const std::array<rpcEventHandlerMap, 4> kRadioIndications = {{

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr char kTag[] = "VornVsClientEvent";
+constexpr char kEventTag[] = "VornVsClientEvent";
 
 /// The frame of the converters here: as deliverEvent, and a missing message or callback is logged.
 template <typename Record, typename Fill>
@@ -14,7 +14,7 @@ void convert(const char* name, RADIO_EVENT_TYPE event, void* indication, void* u
              RadioEventCallback callback, Fill fill)
 {
     if (indication == nullptr || callback == nullptr) {
-        zorLogE(kTag, "%s invalid parameters", name);
+        zorLogE(kEventTag, "%s invalid parameters", name);
         return;
     }
     deliverEvent<Record>(event, indication, userData, callback, fill);
@@ -22,7 +22,7 @@ void convert(const char* name, RADIO_EVENT_TYPE event, void* indication, void* u
 
 void logEnter(const char* name)
 {
-    zorLogD(kTag, "%s - enter", name);
+    zorLogD(kEventTag, "%s - enter", name);
 }
 
 /// A record that lies in a field of the message as it is.
@@ -39,7 +39,7 @@ void vornVsClientNotifySmlStatusIndEvent(void* indication, int, void* userData, 
     convert<RadioLockStatusEvent>(__func__, RADIO_EVENT_SML_STATUS_IND, indication, userData, callback,
                                   [](const VornView& in, RadioLockStatusEvent& out) {
                                       fillBlob(in.bytes(257), out);
-                                      zorLogD(kTag, "%s - RADIO_EVENT_SML_STATUS_IND",
+                                      zorLogD(kEventTag, "%s - RADIO_EVENT_SML_STATUS_IND",
                                               "vornVsClientNotifySmlStatusIndEvent");
                                   });
 }
@@ -49,7 +49,7 @@ void vornVsClientNotifyRlkStatusIndEvent(void* indication, int, void* userData, 
     convert<RadioLockStatusEvent>(__func__, RADIO_EVENT_RLK_STATUS_IND, indication, userData, callback,
                                   [](const VornView& in, RadioLockStatusEvent& out) {
                                       fillBlob(in.bytes(257), out);
-                                      zorLogD(kTag, "%s - RADIO_EVENT_RLK_STATUS_IND",
+                                      zorLogD(kEventTag, "%s - RADIO_EVENT_RLK_STATUS_IND",
                                               "vornVsClientNotifyRlkStatusIndEvent");
                                   });
 }
@@ -59,7 +59,7 @@ void vornVsClientNotifyNecEvent(void* indication, int, void* userData, RadioEven
     convert<RadioReportEvent>(__func__, RADIO_EVENT_NEC_IND, indication, userData, callback,
                               [](const VornView& in, RadioReportEvent& out) {
                                   fillBlob(in.bytes(256), out);
-                                  zorLogD(kTag, "vornVsClientNotifyNecEvent - RADIO_EVENT_NEC_IND");
+                                  zorLogD(kEventTag, "vornVsClientNotifyNecEvent - RADIO_EVENT_NEC_IND");
                               });
 }
 
@@ -69,7 +69,7 @@ void vornVsClientNotifyVeyraInfoIndEvent(void* indication, int, void* userData, 
         RADIO_EVENT_VEYRA_CELL_INFO_IND, indication, userData, callback,
         [](const VornView& in, RadioVeyraCellInfo& out) {
             convertMeasurementReport(in.bytes(258), in.getVornUint8Val(256, 0), out);
-            zorLogD(kTag, "vornVsClientNotifyNecEvent - RADIO_EVENT_VEYRA_CELL_INFO_IND");
+            zorLogD(kEventTag, "vornVsClientNotifyNecEvent - RADIO_EVENT_VEYRA_CELL_INFO_IND");
         });
 }
 
@@ -79,7 +79,7 @@ void vornVsClientNotifyTestIndEvent(void* indication, int, void* userData, Radio
         __func__, RADIO_EVENT_TEST_IND, indication, userData, callback,
         [](const VornView& in, RadioValueEvent& out) {
             out.value = in.getVornInt32Val(256, 0);
-            zorLogD(kTag, "vornVsClientNotifyTestIndEvent - RADIO_EVENT_TEST_IND data %d", out.value);
+            zorLogD(kEventTag, "vornVsClientNotifyTestIndEvent - RADIO_EVENT_TEST_IND data %d", out.value);
         });
 }
 
@@ -88,7 +88,8 @@ void vornVsClientNotifyVeyraEvevtIndEvent(void* indication, int, void* userData,
     convert<RadioValueEvent>(__func__, RADIO_EVENT_VEYRA_EVENT_IND, indication, userData, callback,
                              [](const VornView& in, RadioValueEvent& out) {
                                  out.value = in.getVornInt32Val(256, 0);
-                                 zorLogD(kTag, "vornVsClientNotifyVeyraEvevtIndEvent data %d", out.value);
+                                 zorLogD(kEventTag, "vornVsClientNotifyVeyraEvevtIndEvent data %d",
+                                         out.value);
                              });
 }
 
@@ -97,7 +98,7 @@ void vornVsClientNotifySidoIssueIndEvent(void* indication, int, void* userData, 
     convert<RadioSidoIssueEvent>(__func__, RADIO_EVENT_SIDO_ISSUE_IND, indication, userData, callback,
                                  [](const VornView& in, RadioSidoIssueEvent& out) {
                                      copyField(in, 256, out);
-                                     zorLogD(kTag, "vornVsClientNotifySidoIssueIndEvent");
+                                     zorLogD(kEventTag, "vornVsClientNotifySidoIssueIndEvent");
                                  });
 }
 
@@ -107,7 +108,7 @@ void vornVsClientNotifyHstModeIndEvent(void* indication, int, void* userData, Ra
         __func__, RADIO_EVENT_HST_MODE_IND, indication, userData, callback,
         [](const VornView& in, RadioValueEvent& out) {
             out.value = in.getVornInt32Val(256, 0);
-            zorLogD(kTag, "vornVsClientNotifyHstModeIndEvent - VORN_VS_HST_MODE_IND_T_HST_MODE data %d",
+            zorLogD(kEventTag, "vornVsClientNotifyHstModeIndEvent - VORN_VS_HST_MODE_IND_T_HST_MODE data %d",
                     out.value);
         });
 }
@@ -118,7 +119,7 @@ void vornVsClientNotifyServingCellInfoIndEvent(void* indication, int, void* user
     convert<RadioServingCellEvent>(__func__, RADIO_EVENT_SERVING_CELL_INFO_IND, indication, userData,
                                    callback, [](const VornView& in, RadioServingCellEvent& out) {
                                        copyField(in, 256, out);
-                                       zorLogD(kTag, "vornVsClientNotifyServingCellInfoIndEvent");
+                                       zorLogD(kEventTag, "vornVsClientNotifyServingCellInfoIndEvent");
                                    });
 }
 
@@ -129,7 +130,7 @@ void vornVsClientNotifyHyperUplinkStateIndEvent(void* indication, int, void* use
         __func__, RADIO_EVENT_HYPER_UPLINK_STATE_IND, indication, userData, callback,
         [](const VornView& in, RadioHyperUplinkStateEvent& out) {
             out = {in.getVornInt32Val(256, 0), in.getVornInt32Val(257, 0), in.getVornInt32Val(258, 0)};
-            zorLogD(kTag,
+            zorLogD(kEventTag,
                     "vornVsClientNotifyHyperUplinkStateIndEvent - RADIO_EVENT_HYPER_UPLINK_STATE_IND scene "
                     "%d,state %d,type %d",
                     out.scene, out.state, out.type);
@@ -143,7 +144,7 @@ void vornVsClientNotifyAtomDataIndEvent(void* indication, int, void* userData, R
         [](const VornView& in, RadioAtomDataEvent& out) {
             const auto data = in.bytes(256);
             fillBlob(data, out);
-            zorLogD(kTag,
+            zorLogD(kEventTag,
                     "vornVsClientNotifyAtomDataIndEvent radioEvent.event.atomDataInd.data_len %d , len %d",
                     static_cast<int>(out.length), static_cast<int>(data.size()));
         });
@@ -164,7 +165,7 @@ void vornVsClentNotifyOlogIndEvent(void* indication, int, void* userData, RadioE
     convert<RadioOlogEvent>(__func__, RADIO_EVENT_OLOG_IND, indication, userData, callback,
                             [](const VornView& in, RadioOlogEvent& out) {
                                 out = {in.getVornInt32Val(256, 0), in.getVornInt32Val(257, 0)};
-                                zorLogD(kTag,
+                                zorLogD(kEventTag,
                                         "vornVsClientNotifyAtomDataIndEvent VORN_VS_OLOG_IND_T_DATA_LEN : %d "
                                         ", VORN_VS_OLOG_IND_T_DATA_LOST : %d",
                                         out.dataLength, out.dataLost);
@@ -292,7 +293,7 @@ void vornVsClientNotifyRfIccClatIndEvent(void* indication, int, void* userData, 
         __func__, RADIO_EVENT_RF_ICC_CLAT_INFO_IND, indication, userData, callback,
         [](const VornView& in, RadioRfIccClatEvent& out) {
             copyField(in, 256, out);
-            zorLogD(kTag, "vronVsClientNotifyRfIccClatIndEvent - RADIO_EVENT_RF_ICC_CLAT_INFO_IND");
+            zorLogD(kEventTag, "vronVsClientNotifyRfIccClatIndEvent - RADIO_EVENT_RF_ICC_CLAT_INFO_IND");
         });
 }
 
@@ -303,7 +304,7 @@ void vornVsClientNotifyRfIccTxSharingIndEvent(void* indication, int, void* userD
         __func__, RADIO_EVENT_RF_ICC_TX_SHARING_IND, indication, userData, callback,
         [](const VornView& in, RadioRfIccTxSharingEvent& out) {
             copyField(in, 256, out);
-            zorLogD(kTag, "vronVsClientNotifyRfIccClatIndEvent - RADIO_EVENT_RF_ICC_CLAT_INFO_IND");
+            zorLogD(kEventTag, "vronVsClientNotifyRfIccClatIndEvent - RADIO_EVENT_RF_ICC_CLAT_INFO_IND");
         });
 }
 
@@ -315,7 +316,7 @@ void vornVsClientNotifyRfIccEventIndEvent(void* indication, int, void* userData,
             copyField(in, 256, out);
             out.dataLength = cutTo(out.data, out.dataLength);
             zorLogD(
-                kTag,
+                kEventTag,
                 "vronVsClientNotifyRfIccEventIndEvent - RADIO_EVENT_RF_ICC_EVENT_IND event %d, data_len %d",
                 out.event, static_cast<int>(out.dataLength));
         });

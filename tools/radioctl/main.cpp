@@ -124,6 +124,7 @@ int events(const Options& options)
     stream.instance = options.session.instance;
     stream.json = options.json;
     std::vector<Command> commands;
+    commands.reserve(then.size());
     for (const std::string& line : then) {
         commands.push_back(parseCommand(splitWords(line), options.json));
     }
