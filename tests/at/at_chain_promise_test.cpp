@@ -125,6 +125,19 @@ TEST_F(AtChains, FillTheRecordFromTheLastCommand)
     EXPECT_EQ(caller.calls, 2);
 }
 
+TEST_F(AtChains, MayBeAnsweredBeforeEachSendReturns)
+{
+    modem.answerBeforeSendReturns(answer("OK"));
+    const auto chain = make<AtChain>();
+    for (const char* command : kCommands) {
+        chain->add(command, accept);
+    }
+    chain->start(client, &caller, Caller::onResult);
+    drainTimer();
+    EXPECT_EQ(caller.calls, 1);
+    EXPECT_EQ(caller.result, 0);
+}
+
 TEST_F(AtChains, PauseAfterACommand)
 {
     host::Clock::freeze();

@@ -77,6 +77,17 @@ TEST_F(AtTransport, AnswersOnceWhateverComes)
     }
 }
 
+TEST_F(AtTransport, MayBeAnsweredBeforeTheSendReturns)
+{
+    modem.answerBeforeSendReturns(answer("\r\nOK\r\n"));
+    for (int operation = 0; operation < 3; ++operation) {
+        caller = {};
+        EXPECT_EQ(send(operation, VornAtClient::completeWithResultVoid), 0);
+        EXPECT_EQ(caller.calls, 1);
+        EXPECT_EQ(caller.result, 0);
+    }
+}
+
 TEST_F(AtTransport, CallsAnInterpreterAlone)
 {
     std::vector<std::string> seen;

@@ -65,16 +65,6 @@ TEST(VornClient, ForgetsARefusedRequest)
     EXPECT_EQ(VornClient::sendAsyncRequest(nullptr, nullptr), 1);
 }
 
-TEST(VornClient, MayBeAnsweredBeforeTheSendReturns)
-{
-    TestClient client(0);
-    Caller caller;
-    auto& modem = FakeModem::instance();
-    modem.onSend = [&] { modem.answer({result(0)}); };
-    EXPECT_EQ(client.request(caller), 0);
-    EXPECT_EQ(caller.calls, 1);
-}
-
 TEST(VornClient, GuardsItsHandlersNotItsCallers)
 {
     LogCapture log;

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include <thread>
+
 namespace test {
 
 FakeModem& FakeModem::instance()
@@ -22,6 +24,11 @@ void FakeModem::answerWith(vorn_msg_t* response)
     const Sent request = std::move(sent.at(0));
     sent.erase(sent.begin());
     request.callback(response, request.user);
+}
+
+void FakeModem::answerBeforeSendReturns(const Fields& fields)
+{
+    onSend = [this, fields] { std::thread([&] { answer(fields); }).join(); };
 }
 
 bool FakeModem::indicate(uint16_t id, uint8_t slotBit, const Fields& fields)

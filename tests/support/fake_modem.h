@@ -25,6 +25,10 @@ struct FakeModem {
     void answer(const Fields& fields);
     void answerWith(vorn_msg_t* response);
 
+    /// From now on each request is answered so on a thread of its own, before the call that sends it returns: whoever
+    /// looks at what was handed over after that looks at what is gone.
+    void answerBeforeSendReturns(const Fields& fields);
+
     /// Delivers an indication to whoever registered it; false when nobody did.
     bool indicate(uint16_t id, uint8_t slotBit, const Fields& fields);
 
