@@ -14,7 +14,7 @@
 
 namespace {
 
-using nlohmann::json;
+using json = nlohmann::ordered_json; // rows stay in the order in which they were written
 using std::filesystem::path;
 
 enum class Unit { Ratio, Share, Count };
