@@ -166,4 +166,9 @@ TEST_F(Registry, ChoosesTheClientByArguments)
         EXPECT_EQ(modem.sent.at(0).message->hdr.msg_id == kAt, isAt);
         modem.answer({result(0)});
     }
+    for (const int rat : {-1, 5}) {
+        EXPECT_EQ(radioSetAntForceStateByRat(rat, 1, &caller, Caller::onResult), 1);
+        EXPECT_TRUE(log.has("D VornApis: radioSetAntForceStateByRat : parameter rat(" + std::to_string(rat) +
+                            ") is invlad"));
+    }
 }

@@ -129,6 +129,10 @@ TEST_F(Bands, AreToldInBitsOfUserInterfaces)
          0,
          2},
         {3, {{"AT+EWMPOLICY=0\r\n", "ERROR"}}, 1},
+        {3,
+         {{"AT+EWMPOLICY=0\r\n", "OK"}, {"AT+ECSRA=2,1,0,1,1,0\r\n", "OK"}, {"AT+ECBANDCFG?\r\n", "ERROR"}},
+         1},
+        {0, {{"AT+EPBSE=?", "\r\nERROR\r\n"}}, 1},
         {1, {{"AT+EPBSE=?", "\r\n+EPBSE: 0\r\n\r\nOK\r\n"}}, 1},
         {4, {{"AT+EPBSE=?", "\r\n+EPBSE: 0,0,x\r\n\r\nOK\r\n"}}, 1},
     };

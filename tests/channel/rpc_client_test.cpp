@@ -57,6 +57,10 @@ TEST_F(Listeners, AreCalledInOrderOnceEach)
     EXPECT_TRUE(log.has("D RpcClient: registerRadioEvent already in list"));
     EXPECT_EQ(client.registerRadioEvent(RADIO_EVENT_TEST_IND, &b, second), 0);
     EXPECT_EQ(client.registerRadioEvent(RADIO_EVENT_TEST_IND, &b, nullptr), 0);
+    for (const int event : {400, 501}) {
+        EXPECT_EQ(client.registerRadioEvent(static_cast<RADIO_EVENT_TYPE>(event), &a, first), 1);
+        EXPECT_TRUE(log.has("E RpcClient: registerEvent error, invalid eventId " + std::to_string(event)));
+    }
     client.notifyEventForAllClient(1, nullptr, 0);
     EXPECT_THAT(calls, ElementsAre(std::pair{'2', &a}, std::pair{'1', &a}, std::pair{'2', &b}));
 

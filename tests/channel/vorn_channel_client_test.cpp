@@ -121,6 +121,8 @@ TEST(ChannelClient, TellsServiceListenersOfTheModem)
     States two;
     EXPECT_EQ(client.registerRadioApisEvent(&one, States::onService), 0);
     EXPECT_EQ(client.registerRadioApisEvent(&two, States::onService), 0);
+    EXPECT_EQ(client.registerRadioApisEvent(&two, States::onService), 0);
+    EXPECT_TRUE(log.has("D RpcClient: registerRadioApisEvent already in list"));
     EXPECT_TRUE(log.has("D VornChannelClient: VornVsClient::VornVsClient : open libkst.so success"));
     EXPECT_EQ(log.count("D VornChannelClient: registerRadioApisEvent kst register"), 1);
     host::publishLinkState(host::LinkState::Up);
