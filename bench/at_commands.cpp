@@ -13,7 +13,7 @@ void parseAnswer(benchmark::State& state)
 {
     openLibrary();
     comparePairs(
-        state, 200,
+        state,
         [] {
             static const std::string text = bench::answerWithFields(kFields);
             benchmark::DoNotOptimize(AtCmdParser::instance().parserAtCmdResponse(text.c_str()));

@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """count_instructions.py BUILD OUT: instructions of single operations, exactly, and the most that each may take.
 
-Each case runs twice under callgrind, a different number of times; what one time more costs is the difference. Writes OUT, a JSON object by case.
-Ends with 1 when a limit is broken.
+Each case runs twice under callgrind, a different number of times; what one time more costs is the difference.
+Writes OUT, a JSON object by case. Ends with 1 when a limit is broken.
 """
 
 import collections

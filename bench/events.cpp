@@ -20,7 +20,7 @@ void ignore(RADIO_EVENT_TYPE, void*, void* data, int)
 void measurementReport(benchmark::State& state)
 {
     comparePairs(
-        state, 1000,
+        state,
         [] {
             static vorn_msg_t* const indication = bench::reportIndication();
             vornVsClientNotifyVeyraInfoIndEvent(indication, 0, nullptr, ignore);

@@ -8,6 +8,16 @@ constexpr size_t kSubscriptionSize = 2172;
 
 } // namespace
 
+vorn_msg_t* messageOfNumbers(uint16_t fields)
+{
+    vorn_msg_t* message = vorn_msg_init(0x3895, 1);
+    for (uint16_t tag = kFirstTag; tag < kFirstTag + fields; ++tag) {
+        const uint32_t value = tag;
+        vorn_msg_add_tlv(message, tag, sizeof value, &value);
+    }
+    return message;
+}
+
 std::string answerWithFields(int64_t count)
 {
     std::string text = "\r\n+X: 1";

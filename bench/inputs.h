@@ -9,6 +9,10 @@
 
 namespace bench {
 
+/// A message with so many 32-bit fields, from kFirstTag on; the caller's.
+constexpr uint16_t kFirstTag = 256;
+vorn_msg_t* messageOfNumbers(uint16_t fields);
+
 std::string answerWithFields(int64_t count);
 
 /// Every count at its highest: 10 subscriptions, 2 groups, 10 entries, 8 cells.

@@ -41,30 +41,20 @@ void voidRequest(int times)
     }
 }
 
-vorn_msg_t* build(uint16_t fields)
-{
-    vorn_msg_t* message = vorn_msg_init(0x3895, 1);
-    for (uint16_t tag = 256; tag < 256 + fields; ++tag) {
-        const uint32_t value = tag;
-        vorn_msg_add_tlv(message, tag, sizeof value, &value);
-    }
-    return message;
-}
-
 template <uint16_t kFields>
 void buildMessage(int times)
 {
     for (int i = 0; i < times; ++i) {
-        vorn_msg_deinit(build(kFields));
+        vorn_msg_deinit(bench::messageOfNumbers(kFields));
     }
 }
 
 template <uint16_t kFields>
 void readMessage(int times)
 {
-    vorn_msg_t* message = build(kFields);
+    vorn_msg_t* message = bench::messageOfNumbers(kFields);
     for (int i = 0; i < times; ++i) {
-        for (uint16_t tag = 256; tag < 256 + kFields; ++tag) {
+        for (uint16_t tag = bench::kFirstTag; tag < bench::kFirstTag + kFields; ++tag) {
             uint16_t size = 0;
             uint32_t value = 0;
             std::memcpy(&value, vorn_msg_get_val_ptr(message, tag, &size), sizeof value);

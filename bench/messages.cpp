@@ -1,5 +1,6 @@
 /// What messages cost: those of a few fields and of an array beside a round trip, and a large packed block beside the
 /// same cells copied one by one into an array.
+#include "inputs.h"
 #include "radio_apis/network_action.h"
 #include "round_trip.h"
 #include "vs/action_cell.h"
@@ -9,36 +10,19 @@
 
 namespace {
 
-constexpr int kTimesPerPair = 200;
-constexpr uint16_t kFirstTag = 256;
+using bench::kFirstTag;
 constexpr uint16_t kElements = 64;
-
-void addNumber(vorn_msg_t* message, uint16_t tag)
-{
-    const uint32_t value = tag;
-    vorn_msg_add_tlv(message, tag, sizeof value, &value);
-}
-
-template <uint16_t kFields>
-vorn_msg_t* messageOfFields()
-{
-    vorn_msg_t* message = vorn_msg_init(0x3895, 1);
-    for (uint16_t i = 0; i < kFields; ++i) {
-        addNumber(message, kFirstTag + i);
-    }
-    return message;
-}
 
 template <uint16_t kFields>
 void build()
 {
-    vorn_msg_deinit(messageOfFields<kFields>());
+    vorn_msg_deinit(bench::messageOfNumbers(kFields));
 }
 
 template <uint16_t kFields>
 void read()
 {
-    static vorn_msg_t* const message = messageOfFields<kFields>();
+    static vorn_msg_t* const message = bench::messageOfNumbers(kFields);
     for (uint16_t i = 0; i < kFields; ++i) {
         uint16_t size = 0;
         benchmark::DoNotOptimize(vorn_msg_get_val_ptr(message, kFirstTag + i, &size));
@@ -113,7 +97,7 @@ template <Way way>
 void message(benchmark::State& state)
 {
     openLibrary();
-    comparePairs(state, kTimesPerPair, way, bareRoundTrip);
+    comparePairs(state, way, bareRoundTrip);
 }
 BENCHMARK(message<build<3>>)->Name("messageBuilt3")->Unit(benchmark::kMillisecond);
 BENCHMARK(message<build<10>>)->Name("messageBuilt10")->Unit(benchmark::kMillisecond);
@@ -124,7 +108,7 @@ BENCHMARK(message<readArray>)->Name("arrayRead64")->Unit(benchmark::kMillisecond
 
 void block28046(benchmark::State& state)
 {
-    comparePairs(state, kTimesPerPair, sendableBlock, sendableArray);
+    comparePairs(state, sendableBlock, sendableArray);
 }
 BENCHMARK(block28046)->Unit(benchmark::kMillisecond);
 

@@ -34,7 +34,7 @@ double allocationsOf(Way way)
 
 } // namespace
 
-void comparePairs(benchmark::State& state, int times, Way own, Way beside)
+void comparePairs(benchmark::State& state, Way own, Way beside, int times)
 {
     std::vector<double> ownTimes;
     std::vector<double> besideTimes;

@@ -5,7 +5,9 @@
 
 using Way = void (*)();
 
+constexpr int kTimesPerTurn = 200;
+
 /// Lets each way run `times` times in turn, again and again, and counts "ratio", the median of the ratios, "own_ns" and
 /// "beside_ns", the median times, and "own_allocs" and "beside_allocs", what each way takes from the heap on the calling
 /// thread.
-void comparePairs(benchmark::State& state, int times, Way own, Way beside);
+void comparePairs(benchmark::State& state, Way own, Way beside, int times = kTimesPerTurn);

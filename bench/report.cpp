@@ -55,114 +55,57 @@ constexpr char kFree[] = "free";
 constexpr char kFreeSocket[] = "free-socket";
 constexpr char kTrace[] = "trace";
 
-constexpr auto ratio = Unit::Ratio;
-constexpr auto share = Unit::Share;
-constexpr auto count = Unit::Count;
-constexpr auto atMost = Limit::AtMost;
-constexpr auto atLeast = Limit::AtLeast;
+/// The ratio of a pair.
+Counter pairOf(const char* benchmark, const char* name, const char* what, double limit,
+               const char* run = kPinned)
+{
+    return {{name, what, Unit::Ratio, Limit::AtMost, limit}, run, benchmark, "ratio"};
+}
+
+/// The ratio to a bare round trip of something that is a small part of one.
+Counter shareOf(const char* benchmark, const char* name, double limit)
+{
+    return {
+        {name, "share of a bare round trip", Unit::Share, Limit::AtMost, limit}, kPinned, benchmark, "ratio"};
+}
+
+Counter allocationsOf(const char* benchmark, const char* counter, const char* name, double limit)
+{
+    return {
+        {name, "allocations by the library", Unit::Count, Limit::AtMost, limit}, kPinned, benchmark, counter};
+}
 
 const Counter kCounters[] = {
-    {{"void request", "beside the bare message", ratio, atMost, 1.10}, kPinned, "voidRequest", "ratio"},
-    {{"void request, socket", "the same with the modem in a process of its own", ratio, atMost, 1.10},
-     kPinnedSocket,
-     "voidRequest",
-     "ratio"},
-    {{"64 in flight", "void requests beside bare messages", ratio, atMost, 1.30},
-     kPinned,
-     "voidRequestsInFlight",
-     "ratio"},
-    {{"64 in flight, socket", "the same with the modem in a process of its own", ratio, atMost, 1.10},
-     kPinnedSocket,
-     "voidRequestsInFlight",
-     "ratio"},
-    {{"all cells", "64 neighbours, beside the bare message", ratio, atMost, 1.10},
-     kPinned,
-     "allCells64",
-     "ratio"},
-    {{"network action", "2 x 64 cells, beside a finished block", ratio, atMost, 1.30},
-     kPinned,
-     "networkAction128",
-     "ratio"},
-    {{"NV write", "20480 bytes, beside the bare message", ratio, atMost, 1.20},
-     kPinned,
-     "nvWrite20480",
-     "ratio"},
-    {{"NV read", "20480 bytes, beside the bare message", ratio, atMost, 1.30},
-     kPinned,
-     "nvRead20480",
-     "ratio"},
-    {{"chain of three", "AT commands, beside three bare messages", ratio, atMost, 2.0},
-     kPinned,
-     "chainOfThree",
-     "ratio"},
-    {{"block of 28046 bytes", "2 x 64 cells packed, beside an array of packed ones", ratio, atMost, 2.0},
-     kPinned,
-     "block28046",
-     "ratio"},
-    {{"measurement report", "200 cells, beside the copying of the same bytes", ratio, atMost, 15},
-     kPinned,
-     "measurementReport",
-     "ratio"},
-    {{"trace off", "beside a link that knows of no trace", ratio, atMost, 1.01}, kTrace, "traceOff", "ratio"},
-    {{"trace on", "the same, written to nowhere", ratio, atMost, 4}, kTrace, "traceOn", "ratio"},
-    {{"record cleared", "share of a bare round trip", share, atMost, 0.03}, kPinned, "clearRecord", "ratio"},
-    {{"3 fields built", "share of a bare round trip", share, atMost, 0.01},
-     kPinned,
-     "messageBuilt3",
-     "ratio"},
-    {{"3 fields read", "share of a bare round trip", share, atMost, 0.005}, kPinned, "messageRead3", "ratio"},
-    {{"10 fields built", "share of a bare round trip", share, atMost, 0.02},
-     kPinned,
-     "messageBuilt10",
-     "ratio"},
-    {{"10 fields read", "share of a bare round trip", share, atMost, 0.02},
-     kPinned,
-     "messageRead10",
-     "ratio"},
-    {{"array of 64 built", "share of a bare round trip", share, atMost, 0.16},
-     kPinned,
-     "arrayBuilt64",
-     "ratio"},
-    {{"array of 64 read", "share of a bare round trip", share, atMost, 0.08},
-     kPinned,
-     "arrayRead64",
-     "ratio"},
-    {{"AT answer, 1 field", "share of a bare round trip", share, atMost, 0.02},
-     kPinned,
-     "parseAnswer<1>",
-     "ratio"},
-    {{"AT answer, 5 fields", "share of a bare round trip", share, atMost, 0.03},
-     kPinned,
-     "parseAnswer<5>",
-     "ratio"},
-    {{"AT answer, 24 fields", "share of a bare round trip", share, atMost, 0.05},
-     kPinned,
-     "parseAnswer<24>",
-     "ratio"},
-    {{"void request", "allocations by the library", count, atMost, 2},
-     kPinned,
-     "voidRequest",
-     "library_allocs"},
-    {{"void request's answer", "allocations by the library", count, atMost, 0},
-     kPinned,
-     "voidRequest",
-     "library_reply_allocs"},
-    {{"all cells' answer", "allocations by the library", count, atMost, 0},
-     kPinned,
-     "allCells64",
-     "library_reply_allocs"},
-    {{"NV read's answer", "allocations by the library", count, atMost, 0},
-     kPinned,
-     "nvRead20480",
-     "library_reply_allocs"},
-    {{"network action", "allocations by the library", count, atMost, 2},
-     kPinned,
-     "networkAction128",
-     "library_allocs"},
-    {{"measurement report", "allocations by the library", count, atMost, 0},
-     kPinned,
-     "measurementReport",
-     "own_allocs"},
+    pairOf("voidRequest", "void request", "beside the bare message", 1.10),
+    pairOf("voidRequest", "void request, socket", "the modem in a process of its own", 1.10, kPinnedSocket),
+    pairOf("voidRequestsInFlight", "64 in flight", "void requests beside bare messages", 1.30),
+    pairOf("voidRequestsInFlight", "64 in flight, socket", "the modem in a process of its own", 1.10,
+           kPinnedSocket),
+    pairOf("allCells64", "all cells", "64 neighbours, beside the bare message", 1.10),
+    pairOf("networkAction128", "network action", "2 x 64 cells, beside a finished block", 1.30),
+    pairOf("nvWrite20480", "NV write", "20480 bytes, beside the bare message", 1.20),
+    pairOf("nvRead20480", "NV read", "20480 bytes, beside the bare message", 1.30),
+    pairOf("chainOfThree", "chain of three", "AT commands, beside three bare messages", 2.0),
+    pairOf("block28046", "block of 28046 bytes", "2 x 64 cells packed, beside an array of packed ones", 2.0),
+    pairOf("measurementReport", "measurement report", "200 cells, beside the copying of the same bytes", 15),
+    pairOf("traceOff", "trace off", "beside a link that knows of no trace", 1.01, kTrace),
+    pairOf("traceOn", "trace on", "the same, written to nowhere", 4, kTrace),
+    shareOf("clearRecord", "record cleared", 0.03),
+    shareOf("messageBuilt3", "3 fields built", 0.01),
+    shareOf("messageRead3", "3 fields read", 0.005),
+    shareOf("messageBuilt10", "10 fields built", 0.02),
+    shareOf("messageRead10", "10 fields read", 0.02),
+    shareOf("arrayBuilt64", "array of 64 built", 0.16),
+    shareOf("arrayRead64", "array of 64 read", 0.08),
+    shareOf("parseAnswer<1>", "AT answer, 1 field", 0.02),
+    shareOf("parseAnswer<5>", "AT answer, 5 fields", 0.03),
+    shareOf("parseAnswer<24>", "AT answer, 24 fields", 0.05),
+    allocationsOf("voidRequest", "library_allocs", "void request", 2),
+    allocationsOf("networkAction128", "library_allocs", "network action", 2),
+    allocationsOf("voidRequest", "library_reply_allocs", "void request's answer", 0),
+    allocationsOf("allCells64", "library_reply_allocs", "all cells' answer", 0),
+    allocationsOf("nvRead20480", "library_reply_allocs", "NV read's answer", 0),
+    allocationsOf("measurementReport", "own_allocs", "measurement report", 0),
 };
 
 /// A row that compares how much two benchmarks of a run do per second.
@@ -178,35 +121,31 @@ constexpr char kOneCaller[] = "callers/instances:1/real_time/threads:1";
 constexpr char kEightCallers[] = "callers/instances:1/real_time/threads:8";
 constexpr char kThreeTimesEight[] = "callers/instances:3/real_time/threads:24";
 
+Throughput callersOf(const char* benchmark, const char* name, double limit, const char* run = kFree,
+                     const char* beside = kOneCaller,
+                     const char* what = "requests per second, beside one caller")
+{
+    return {{name, what, Unit::Ratio, Limit::AtLeast, limit}, run, benchmark, beside, 1};
+}
+
+Throughput listenersOf(const char* benchmark, const char* name, int listeners)
+{
+    constexpr char kWhat[] = "calls per second, beside one listener's";
+    return {{name, kWhat, Unit::Ratio, Limit::AtLeast, 1}, kFree, benchmark, "listeners/1", 1.0 / listeners};
+}
+
+constexpr char kThreeWhat[] = "requests per second, beside 8 on one instance";
+
 const Throughput kThroughputs[] = {
-    {{"2 callers", "requests per second, beside one caller", ratio, atLeast, 0.9},
-     kFree,
-     "callers/instances:1/real_time/threads:2",
-     kOneCaller,
-     1},
-    {{"4 callers", "the same", ratio, atLeast, 0.9},
-     kFree,
-     "callers/instances:1/real_time/threads:4",
-     kOneCaller,
-     1},
-    {{"8 callers", "the same", ratio, atLeast, 0.9}, kFree, kEightCallers, kOneCaller, 1},
-    {{"8 callers, socket", "the same", ratio, atLeast, 0.9}, kFreeSocket, kEightCallers, kOneCaller, 1},
-    {{"8 callers on each of 3", "beside 8 on one instance", ratio, atLeast, 0.9},
-     kFree,
-     kThreeTimesEight,
-     kEightCallers,
-     1},
-    {{"8 callers on each of 3, socket", "the same", ratio, atLeast, 1.3},
-     kFreeSocket,
-     kThreeTimesEight,
-     kEightCallers,
-     1},
-    {{"8 listeners", "calls per second, beside one listener's", ratio, atLeast, 1},
-     kFree,
-     "listeners/8",
-     "listeners/1",
-     1.0 / 8},
-    {{"64 listeners", "the same", ratio, atLeast, 1}, kFree, "listeners/64", "listeners/1", 1.0 / 64},
+    callersOf("callers/instances:1/real_time/threads:2", "2 callers", 0.9),
+    callersOf("callers/instances:1/real_time/threads:4", "4 callers", 0.9),
+    callersOf(kEightCallers, "8 callers", 0.9),
+    callersOf(kEightCallers, "8 callers, socket", 0.9, kFreeSocket),
+    callersOf(kThreeTimesEight, "8 callers on each of 3", 0.9, kFree, kEightCallers, kThreeWhat),
+    callersOf(kThreeTimesEight, "8 callers on each of 3, socket", 1.3, kFreeSocket, kEightCallers,
+              kThreeWhat),
+    listenersOf("listeners/8", "8 listeners", 8),
+    listenersOf("listeners/64", "64 listeners", 64),
 };
 
 json parsed(const path& file)
@@ -251,8 +190,8 @@ std::vector<Row> rowsOf(const path& folder)
     }
     const json instructions = parsed(folder / "instructions.json");
     for (const auto& [name, counted] : instructions.items()) {
-        rows.push_back(
-            {name, "instructions", count, atMost, counted.at("limit"), counted.at("instructions")});
+        rows.push_back({name, "instructions", Unit::Count, Limit::AtMost, counted.at("limit"),
+                        counted.at("instructions")});
     }
     return rows;
 }

@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int kTimesPerPair = 200;
 constexpr int kInFlight = 64;
 
 std::counting_semaphore<> answered(0);
@@ -63,10 +62,10 @@ double replyAllocationsOf(Way roundTrip)
 {
     roundTrip();
     const size_t before = gReplyAllocations;
-    for (int i = 0; i < kTimesPerPair; ++i) {
+    for (int i = 0; i < kTimesPerTurn; ++i) {
         roundTrip();
     }
-    return static_cast<double>(gReplyAllocations - before) / kTimesPerPair;
+    return static_cast<double>(gReplyAllocations - before) / kTimesPerTurn;
 }
 
 void sendSarStateStraight()
@@ -95,7 +94,7 @@ void clearRecord(benchmark::State& state)
 {
     openLibrary();
     comparePairs(
-        state, kTimesPerPair, [] { benchmark::DoNotOptimize(ZeroedResult()); }, bareRoundTrip);
+        state, [] { benchmark::DoNotOptimize(ZeroedResult()); }, bareRoundTrip);
 }
 BENCHMARK(clearRecord)->Unit(benchmark::kMillisecond);
 
@@ -270,7 +269,7 @@ void bareRoundTrip()
 void compareRoundTrips(benchmark::State& state, Way throughLibrary, Way straight)
 {
     openLibrary();
-    comparePairs(state, kTimesPerPair, throughLibrary, straight);
+    comparePairs(state, throughLibrary, straight);
     auto& counters = state.counters;
     counters["library_allocs"] = counters["own_allocs"] - counters["beside_allocs"];
     counters["library_reply_allocs"] = replyAllocationsOf(throughLibrary) - replyAllocationsOf(straight);

@@ -11,7 +11,6 @@
 namespace {
 
 constexpr char kDevice[] = "embedded";
-constexpr int kTimesPerPair = 200;
 
 std::binary_semaphore answered(0);
 
@@ -38,7 +37,7 @@ void roundTrip(host::Transport& transport)
 
 void besideKnowingNothing(benchmark::State& state, Way own)
 {
-    comparePairs(state, kTimesPerPair, own, [] {
+    comparePairs(state, own, [] {
         static auto& plain = opened([](host::LinkEvents& events) {
             return std::make_unique<host::EmbeddedLink>(sim::Scenario::builtIn(), events);
         });

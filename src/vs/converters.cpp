@@ -4,9 +4,9 @@
 #include "vs/measurement_report.h"
 #include "vs/vs_request.h"
 
-namespace {
+using vs::kEventTag;
 
-constexpr char kEventTag[] = "VornVsClientEvent";
+namespace {
 
 /// The frame of the converters here: as deliverEvent, and a missing message or callback is logged.
 template <typename Record, typename Fill>

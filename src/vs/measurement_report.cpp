@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <cstring>
 
-namespace {
+using vs::kEventTag;
 
-constexpr char kReportTag[] = "VornVsClientEvent";
+namespace {
 
 constexpr size_t kSubscriptionSize = 2172;
 constexpr size_t kGroups[] = {12, 1092};
@@ -162,19 +162,19 @@ uint32_t vorn_veyra_convert_collect_info_list_from_ind(ReportBlock subscriptions
 void veyra_convert_vorn_info_list_from_ind(ReportBlock subscriptions, ReportCursor& cursor, uint32_t total,
                                            uint32_t count)
 {
-    zorLogD(kReportTag, "Veyra:_veyra_convert_vorn_cell_info_list totcells:[%d] ", static_cast<int>(total));
+    zorLogD(kEventTag, "Veyra:_veyra_convert_vorn_cell_info_list totcells:[%d] ", static_cast<int>(total));
     if (subscriptions.data() == nullptr || cursor.next == nullptr) {
-        zorLogD(kReportTag, "NULL parameters passed");
+        zorLogD(kEventTag, "NULL parameters passed");
         return;
     }
     RadioVeyraCell* const start = cursor.next;
     const uint32_t produced = vorn_veyra_convert_collect_info_list_from_ind(subscriptions, cursor, count);
     if (produced > total) {
-        zorLogD(kReportTag, "Veyra:_veyra_convert_vorn_cell_info_list consumed more cells:[%d] ",
+        zorLogD(kEventTag, "Veyra:_veyra_convert_vorn_cell_info_list consumed more cells:[%d] ",
                 static_cast<int>(produced));
         return;
     }
-    zorLogD(kReportTag, "Veyra:_veyra_convert_vorn_cell_info_list consumed cells:[%d] ",
+    zorLogD(kEventTag, "Veyra:_veyra_convert_vorn_cell_info_list consumed cells:[%d] ",
             static_cast<int>(produced));
     cursor.next = start;
 }
@@ -185,11 +185,11 @@ namespace {
 uint32_t convertCells(ReportBlock subscriptions, uint8_t count, ReportCursor& cursor)
 {
     if (subscriptions.data() == nullptr) {
-        zorLogE(kReportTag, "vorn_vs_veyra_get_data - error");
+        zorLogE(kEventTag, "vorn_vs_veyra_get_data - error");
     }
     if (count == 0) {
-        zorLogD(kReportTag, "Veyra:_veyra_convert_vorn_cell_info_list totcells:[%d] ", 0);
-        zorLogD(kReportTag, "Veyra:_veyra_convert_vorn_cell_info_list consumed cells:[%d] ", 0);
+        zorLogD(kEventTag, "Veyra:_veyra_convert_vorn_cell_info_list totcells:[%d] ", 0);
+        zorLogD(kEventTag, "Veyra:_veyra_convert_vorn_cell_info_list consumed cells:[%d] ", 0);
         return 0;
     }
     const uint32_t total = vorn_veyra_count_cell_info_cells_from_ind(subscriptions, count);

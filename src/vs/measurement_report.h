@@ -23,6 +23,13 @@
 
 #include <span>
 
+namespace vs {
+
+/// The log tag of everything that makes events.
+inline constexpr char kEventTag[] = "VornVsClientEvent";
+
+} // namespace vs
+
 /// Decimal numbers from 4-bit digits, hundreds in the upper byte. 0 for a value above 0x999, and for an MNC
 /// that is negative or has no digits.
 uint16_t veyra_convert_mcc(uint16_t digits);
