@@ -74,6 +74,7 @@ TEST_F(TransportTest, unregisteringWaitsForTheRunningCallback)
         });
         released.set_value();
         thread.join();
+        transport.close();
     }
 }
 

@@ -23,7 +23,12 @@ TEST_F(TransportTest, everyRequestHasOneAnswerWhateverTheModemDoes)
         {"silence", nullptr, host::kResultTimeout, 1},
         {"another's answer", [](uint16_t tx, auto& link) { answer(tx ^ 1, link); }, host::kResultTimeout, 2},
         {"the end of the link", [](uint16_t, auto& link) { link.lost(0ms); }, host::kResultLinkLost, 1},
-        {"a link without memory", [](uint16_t, auto&) { throw std::bad_alloc(); }, host::kResultLinkLost, 2},
+        {"a link without memory",
+         [this](uint16_t tx, auto&) {
+             modem.requests.add(tx);
+             throw std::bad_alloc();
+         },
+         host::kResultLinkLost, 2},
     };
     size_t requests = 0;
     for (const auto& [what, behaviour, result, rowWarnings] : rows) {
