@@ -78,6 +78,26 @@ TEST_F(TransportTest, unregisteringWaitsForTheRunningCallback)
     }
 }
 
+TEST_F(TransportTest, closingWaitsForOneCallbackAndNotForWhatIsQueued)
+{
+    Inbox<bool> entered;
+    Answers held;
+    held.onAnswer = [&] {
+        entered.add(true);
+        while (listen(held)) { // until it is closing
+            std::this_thread::yield();
+        }
+    };
+    modem.behaviour = [](uint16_t, auto& link) { // both in one batch
+        link.received(messageOf(0));
+        link.received(messageOf(0));
+    };
+    ASSERT_TRUE(open() && listen(held) && send(answers));
+    entered.waitFor(1);
+    transport.close();
+    EXPECT_EQ(held.waitFor(0).size(), 1u);
+}
+
 TEST_F(TransportTest, everyThreadMaySendOpenAndClose)
 {
     modem.behaviour = answer;

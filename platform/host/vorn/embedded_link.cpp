@@ -35,7 +35,8 @@ void EmbeddedLink::resume()
 {
     mIsFull = false;
     if (const size_t dropped = std::exchange(mDropped, 0); dropped != 0) {
-        zorLogW(kEmbeddedTag, "the modem dropped %zu indications: callbacks take longer than they have", dropped);
+        zorLogW(kEmbeddedTag, "the modem dropped %zu indications: callbacks take longer than they have",
+                dropped);
     }
 }
 

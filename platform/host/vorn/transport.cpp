@@ -70,11 +70,11 @@ bool Transport::open(const LinkFactory& makeLink)
     try {
         openLink(makeLink, isDeliveryThread() ? milliseconds(0) : kOpenPatience);
         lock.lock();
+        mState = State::Open; // first, since the thread ends when it is not
         if (before == State::Closed) {
             mThread = std::thread([this] { run(); });
             mDeliveryThread = mThread.get_id();
         }
-        mState = State::Open;
     } catch (const std::exception& error) {
         zorLogE(kTag, "can't open the link: %s", error.what());
         if (lock.owns_lock()) {

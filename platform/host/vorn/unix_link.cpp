@@ -111,6 +111,7 @@ void UnixLink::start(Socket socket)
 void UnixLink::run()
 {
     try {
+        const auto goesOn = asio::make_work_guard(*mContext); // while nothing is read
         mContext->run();
     } catch (const std::exception& error) {
         closed(*mConnection, error.what());
