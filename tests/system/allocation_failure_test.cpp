@@ -9,7 +9,6 @@
 #include "links.h"
 #include "radioctl/batch.h"
 #include "radioctl/command.h"
-#include "radioctl/event.h"
 #include "support/failing_memory.h"
 #include "system/examples.h"
 
@@ -450,15 +449,16 @@ Case requestCase(const std::string& line)
     return {call.request->name(), true, false, init, act, memory::allocations(memory::Caller)};
 }
 
-Case eventCase(const radioctl::Event& event)
+Case eventCase(const rpcEventHandlerMap& row)
 {
-    const nlohmann::json command = {{"command", "indicate"}, {"message", event.name}, {"slot", 0}};
+    const std::string name = fmt::format("0x{:04x}", row.msgId);
+    const nlohmann::json command = {{"command", "indicate"}, {"message", name}, {"slot", 0}};
     modem().control(command.dump());
-    const auto prepare = [type = event.type] {
+    const auto prepare = [event = row.event] {
         init();
         radioRegisterVsEvent(allVendorEvents(), nullptr, nullptr);
         radioRegisterRadioEvent({{1, 1}, {1, 1}}, nullptr, nullptr);
-        registerRadioEvent(type, nullptr, onEvent);
+        registerRadioEvent(event, nullptr, onEvent);
     };
     const auto act = [indication = std::shared_ptr<vorn_msg_t>(std::move(events.kept))](int*) {
         const memory::Scope test(true);
@@ -466,7 +466,7 @@ Case eventCase(const radioctl::Event& event)
         settle();
         return 0;
     };
-    return {"event " + event.name, false, true, prepare, act};
+    return {"event-" + name, false, true, prepare, act};
 }
 
 Case otherCase(const std::string& name, std::function<void()> prepare, std::function<int()> act)
@@ -484,9 +484,8 @@ std::vector<Case> allCases()
         cases.push_back(requestCase(line));
     }
     modem().open();
-    for (const radioctl::Event& event : radioctl::events()) {
-        cases.push_back(eventCase(event));
-    }
+    std::ranges::transform(kVendorIndications, std::back_inserter(cases), eventCase);
+    std::ranges::transform(kRadioIndications, std::back_inserter(cases), eventCase);
     const auto onState = [](RADIO_APIS_SERVICE_TYPE, RAPIS_CONNECT_STATE, void*) { count(calls[run]); };
     cases.push_back(otherCase(
         "init", [] {}, [] { return radioApisInit(kModem, 0); }));
