@@ -141,8 +141,8 @@ const std::vector<std::pair<Call, Commands>>& settings()
         {call(radioSetPingpongBarSetting, 0, 1, 2, 3, 4),
          chained({R"(AT+ESBP=5,"SBP_ENABLE_PINGPONG_BAR_LTE",0)",
                   R"(AT+ESBP=5,"SBP_ENABLE_PINGPONG_BAR_NR",0)"})},
-        {call(radioSetPingpongBarSetting, 2, 1, 2, 3, 4),
-         chained({R"(AT+EGMC=1,"irat_ping_pong_bar_setting",1,2,3)",
+        {call(radioSetPingpongBarSetting, 2, 7, 8, 9, 4),
+         chained({R"(AT+EGMC=1,"irat_ping_pong_bar_setting",7,8,9)",
                   R"(AT+ESBP=5,"SBP_ENABLE_PINGPONG_BAR_LTE",0)",
                   R"(AT+ESBP=5,"SBP_ENABLE_PINGPONG_BAR_NR",1)"})},
         {call(radioSetCaStatus, 4, true), {"AT+ECASW=1"}},
@@ -215,7 +215,7 @@ TEST_F(Configuration, SendsSettings)
          R"(setQrxlvminCfg: ENTER: nr_qrxlvmin_cfg_strcmd AT+EGMC=1,"EGMC_NRRC_CAMP_ON_CRITERIA",4,5,6,7,8,-9)",
          R"(setArrearageCfg: ENTER: arrearage_at_strcmd: AT+EDMFAPP=20000,100,"11")",
          "setArrearageCfg: result: 0",
-         "VornAtClient::setPingpongBarSetting type=2,barTime=1,period=2,hitCnt=3,reserve=4",
+         "VornAtClient::setPingpongBarSetting type=2,barTime=7,period=8,hitCnt=9,reserve=4",
          "VornAtClient setCiwlanUiSwitch enable=0"}) {
         EXPECT_TRUE(log.has(std::string("D VornAtClient: ") + line)) << line;
     }
