@@ -150,6 +150,25 @@ TEST_F(AtChains, SucceedWithoutCommandsFromTheTimer)
     EXPECT_TRUE(thread != std::this_thread::get_id());
 }
 
+TEST_F(AtChains, NeedTheSameStackWhateverTheirLength)
+{
+    constexpr int kLength = 30000;
+    for (const char* last : {"OK", "ERROR"}) {
+        const bool succeeds = last == std::string("OK");
+        caller = {};
+        const auto chain = make<AtChain>();
+        for (int i = 0; i < kLength; ++i) {
+            chain->add("AT+A", accept);
+        }
+        chain->start(client, &caller, Caller::onResult);
+        for (int i = 0; i < (succeeds ? kLength : 1); ++i) {
+            modem.answer(answer(last));
+        }
+        EXPECT_EQ(caller.calls, 1);
+        EXPECT_EQ(caller.result, succeeds ? 0 : 1);
+    }
+}
+
 TEST_F(AtChains, TellOtherExceptionsByTheirMessage)
 {
     const auto cb = make<RadioApiCallback>(Caller::onResult);

@@ -77,6 +77,15 @@ TEST_F(AtTransport, AnswersOnceWhateverComes)
     }
 }
 
+TEST_F(AtTransport, SendsNoMessageWithoutItsText)
+{
+    const std::string tooLong(70000, 'A');
+    EXPECT_EQ(client->sendAtCommand(tooLong.c_str(), &caller, Caller::onResult, nullptr), 1);
+    EXPECT_TRUE(modem.sent.empty());
+    EXPECT_EQ(caller.calls, 0);
+    EXPECT_TRUE(log.has("E VornClient: sendComplete: message 0x0003 lacks a field that could not be added"));
+}
+
 TEST_F(AtTransport, MayBeAnsweredBeforeTheSendReturns)
 {
     modem.answerBeforeSendReturns(answer("\r\nOK\r\n"));

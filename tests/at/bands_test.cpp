@@ -135,6 +135,10 @@ TEST_F(Bands, AreToldInBitsOfUserInterfaces)
         {0, {{"AT+EPBSE=?", "\r\nERROR\r\n"}}, 1},
         {1, {{"AT+EPBSE=?", "\r\n+EPBSE: 0\r\n\r\nOK\r\n"}}, 1},
         {4, {{"AT+EPBSE=?", "\r\n+EPBSE: 0,0,x\r\n\r\nOK\r\n"}}, 1},
+        {4, {{"AT+EPBSE=?", "\r\n+EPBSE: 1,1\r\n\r\nOK\r\n"}}, 1},
+        {5, {{"AT+EPBSEH=?", "\r\n+EPBSEH: x,x,x,x\r\n\r\nOK\r\n"}}, 1},
+        {5, {{"AT+EPBSEH=?", "\r\n+EPBSEH: 0,0,0,\"0x\"\r\n\r\nOK\r\n"}}, 1},
+        {5, {{"AT+EPBSEH=?", "\r\n+EPBSEH: 0,0,0,\"\"\r\n\r\nOK\r\n"}}, 1},
     };
     for (const auto& row : cases) {
         ASSERT_EQ(radioGetBand(row.nwType, &caller, Caller::onResult), 0);
@@ -146,6 +150,14 @@ TEST_F(Bands, AreToldInBitsOfUserInterfaces)
         EXPECT_EQ(caller.record.rsp.bandInfo.nwType, row.result == 0 ? row.nwType : 0);
         EXPECT_EQ(caller.record.rsp.bandInfo.low, row.low);
         EXPECT_EQ(caller.record.rsp.bandInfo.high, row.high);
+    }
+    for (const char* mask : {"0x", "\"\"", "x", "1x"}) {
+        ASSERT_EQ(start(call(radioGetBand, 3)), 0);
+        modem.answer(answer("OK"));
+        modem.answer(answer("OK"));
+        modem.answer(answer((std::string("+ECBANDCFG: ") + mask).c_str()));
+        EXPECT_EQ(caller.result, 1) << mask;
+        EXPECT_TRUE(allZero(caller.record)) << mask;
     }
     EXPECT_EQ(radioGetBand(2, &caller, Caller::onResult), 1);
     EXPECT_TRUE(log.has("E VornAtClient: unknown rat!"));

@@ -473,7 +473,8 @@ TEST_F(Configuration, LooksTwiceForTheOperationMode)
          {"D VornAtClient: setOperationMode: mode=12",
           "D VornAtClient: query efun callback: efun=3,  p->len=2", "D VornAtClient: unexpected type",
           "D VornAtClient: curMode=3", "D VornAtClient: getBoolean: false",
-          "E VornAtClient: setOperationMode: processRadioException: radio exception with error no 1"}) {
+          "E VornAtClient: setOperationMode: processRadioException: radio exception with error no 1",
+          "E VornAtClient: setOperationMode: process exception: null pointer"}) {
         EXPECT_TRUE(log.has(line)) << line;
     }
 }
