@@ -2,11 +2,13 @@
 #pragma once
 
 #include "api/registry.h"
+#include "kst/libkst.h"
 #include "radio_apis/radio_apis.h"
 #include "support/device_root.h"
-#include "support/fields.h"
 
 #include <gtest/gtest.h>
+
+#include <dlfcn.h>
 
 namespace test {
 
@@ -19,6 +21,11 @@ struct Device {
     Device() { setSupport("1"); }
     ~Device()
     {
+        // The status library, when it was opened, reports to the channel's client.
+        if (void* library = dlopen("libkst.so", RTLD_LAZY | RTLD_NOLOAD)) {
+            reinterpret_cast<decltype(&libkst_deinit)>(dlsym(library, "libkst_deinit"))();
+            dlclose(library);
+        }
         for (unsigned instance = 0; instance < kInstances; ++instance) {
             tlssubid = instance;
             radioApisReleaseService(kModem);

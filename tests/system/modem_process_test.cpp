@@ -4,6 +4,7 @@
 
 #include "host/clock.h"
 #include "host/device.h"
+#include "vorn/vorn_msg.h"
 
 #include <gmock/gmock.h>
 
@@ -29,6 +30,11 @@ public:
         mAll.push_back(what);
         mChanged.notify_all();
     }
+    void clear()
+    {
+        const std::lock_guard lock(mMutex);
+        mAll.clear();
+    }
     std::vector<int> await(size_t count)
     {
         std::unique_lock lock(mMutex);
@@ -46,6 +52,7 @@ class ModemSim : public testing::Test {
 protected:
     ModemSim()
     {
+        states.clear();
         setenv("RADIO_LOG", "off", 1);
         host::setProperty("ro.vendor.zor_vorn_support", "1");
         registerRadioApisEvent(kModem, &states, [](auto, RAPIS_CONNECT_STATE state, void* user) {
@@ -53,10 +60,14 @@ protected:
         });
     }
 
+    ~ModemSim() override { vorn_deinit(); }
+
+    /// The library opens its modem once; later tests of a process open theirs themselves.
     void use(const std::string& device)
     {
         setenv("RADIO_VORN_DEVICE", device.c_str(), 1);
         EXPECT_EQ(radioApisInit(kModem, 0), 0);
+        EXPECT_EQ(vorn_init_debug("test"), 0);
     }
 
     /// The whole way to the modem and back.
@@ -83,6 +94,7 @@ TEST_F(ModemSim, IsSharedByPrograms)
     modem.start();
     use(modem.device());
     static Happenings& events = *new Happenings;
+    events.clear();
     registerRadioEvent(RADIO_EVENT_TEST_IND, nullptr,
                        [](auto, auto, void* data, int) { events.note(*static_cast<int*>(data)); });
     ASSERT_EQ(radioRegisterVsEvent({.test = {1, 1}}, nullptr, nullptr), 0);
