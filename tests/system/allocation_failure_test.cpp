@@ -301,7 +301,7 @@ bool isPartOf(const Report& part, const Report& whole)
 /// Runs a case in this process. `good` is what it does when nothing fails; null: this is how to find out.
 [[noreturn]] void perform(const Case& what, const memory::Aim& aim, const Report* good)
 {
-    alarm(30);
+    alarm(10);
     std::set_terminate([] { end(kTerminated); });
     memory::onFailure = [] { report->failed = true; };
     {

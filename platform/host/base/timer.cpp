@@ -1,5 +1,6 @@
 #include "host/clock.h"
 #include "mindroid/promise.h"
+#include "zor/log.h"
 
 #include <map>
 #include <thread>
@@ -42,9 +43,19 @@ private:
             if (!host::Clock::waitUntil(mChanged, lock, deadline, earlierOne)) {
                 const auto due = mFunctions.extract(mFunctions.begin());
                 lock.unlock();
-                due.mapped()();
+                call(due.mapped());
                 lock.lock();
             }
+        }
+    }
+
+    /// What a function throws concerns nobody else who waits for his time.
+    static void call(const std::function<void()>& function) noexcept
+    {
+        try {
+            function();
+        } catch (const std::exception& exception) {
+            zorLogE("mindroid", "a delayed function failed: %s", exception.what());
         }
     }
 
@@ -53,7 +64,15 @@ private:
     std::multimap<host::Clock::TimePoint, std::function<void()>> mFunctions; ///< by the time they are due
 };
 
+/// Made while there is memory, since a step may fail for want of it; and never destroyed, as the timer.
+const sp<Exception>& stepFailure = *new sp<Exception>(make<Exception>("a step could not be taken"));
+
 } // namespace
+
+const sp<Exception>& failureOfStep()
+{
+    return stepFailure;
+}
 
 void runAfter(std::chrono::milliseconds pause, std::function<void()> function)
 {
