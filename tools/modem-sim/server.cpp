@@ -29,8 +29,7 @@ bool isLeftOver(asio::io_context& context, const std::string& path)
     }
     asio::error_code error;
     host::Socket socket(context, Endpoint().protocol());
-    socket.non_blocking(
-        true); // one that is stopped would never take the connection, and its queue may be full
+    socket.non_blocking(true); // the queue of one that is stopped may be full
     socket.connect(Endpoint(path), error);
     if (!error || error == asio::error::no_buffer_space) {
         throw std::runtime_error("somebody listens at " + path + " already");
