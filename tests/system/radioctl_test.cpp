@@ -145,6 +145,18 @@ TEST(Radioctl, WatchesCells)
     EXPECT_EQ(std::distance(Lines(run.output.begin(), run.output.end(), serving), Lines()), 2);
 }
 
+/// The modem's block is what the event holds, its counts included.
+TEST(Radioctl, ShowsNoMoreCellsThanTheEventHolds)
+{
+    const std::string block(2 * 4280, 'f');
+    const Ran run = radioctl(
+        "--json events all-cell-info --count 1 --do 'sim indicate all-cell-info cells=" + block + "'");
+    const json cells =
+        json::parse(run.output.substr(run.output.find("{\"time"))).at("record").at("subscriptions");
+    ASSERT_EQ(cells.size(), 2U);
+    EXPECT_EQ(cells[1].at("neighbours").size(), 64U);
+}
+
 TEST(Radioctl, CompletesAndDescribesItself)
 {
     const std::string script = "bash -c '. <(\"" RADIOCTL "\" completion bash); COMP_CWORD=$(($# - 1)); "

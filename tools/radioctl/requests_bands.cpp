@@ -147,7 +147,8 @@ Json showPreferredBands(const Rsp& rsp)
     const auto& record = rsp.bandPrefer;
     const auto* technology =
         std::ranges::find_if(kTechnologies, [&](const auto& known) { return known.rat == record.rat; });
-    Json shown = showBands(*technology, {record.bands, record.length});
+    const size_t length = std::min<size_t>(record.length, std::size(record.bands));
+    Json shown = showBands(*technology, std::span(record.bands).first(length));
     shown["current"] = record.current;
     return shown;
 }

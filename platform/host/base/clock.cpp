@@ -1,6 +1,8 @@
 #include "host/clock.h"
 
 #include <atomic>
+#include <new>
+#include <pthread.h>
 #include <thread>
 #include <utility>
 
@@ -25,11 +27,23 @@ struct State {
     uint64_t round = 0;        ///< counts the changes that waiters must hear of
 };
 
+void forgetOtherThreads();
+
 /// Never destroyed: threads of the host's libraries may outlive main().
 State& state()
 {
-    static State& instance = *new State;
+    static State& instance = *[] {
+        pthread_atfork(nullptr, nullptr, forgetOtherThreads);
+        return new State;
+    }();
     return instance;
+}
+
+/// In a forked child nobody waits, and nobody would release the mutex that another thread held.
+void forgetOtherThreads()
+{
+    new (&state().mutex) std::mutex;
+    state().waiters.clear();
 }
 
 Clock::TimePoint runningTime(const State& clock)

@@ -3,6 +3,8 @@
 #include "zor/log.h"
 
 #include <map>
+#include <new>
+#include <pthread.h>
 #include <thread>
 
 namespace mindroid {
@@ -11,25 +13,30 @@ namespace {
 /// Runs functions at their time, on a thread that starts with the first one.
 class Timer {
 public:
-    /// Never destroyed: functions may be due while the process ends.
+    /// Never destroyed: functions may be due while the process ends. A forked child begins anew: the thread is
+    /// its parent's, as is what is due, and nobody would ever unlock the mutex that the thread held.
     static Timer& instance()
     {
-        static Timer& timer = *new Timer;
+        static Timer& timer = *[] {
+            pthread_atfork(nullptr, nullptr, [] { new (&instance()) Timer; });
+            return new Timer;
+        }();
         return timer;
     }
 
     void runAt(host::Clock::TimePoint time, std::function<void()> function)
     {
         const std::lock_guard lock(mMutex);
+        if (!mIsRunning) {
+            std::thread([this] { run(); }).detach();
+            mIsRunning = true;
+        }
         mFunctions.emplace(time, std::move(function));
         mChanged.notify_one();
     }
 
 private:
-    Timer()
-    {
-        std::thread([this] { run(); }).detach();
-    }
+    Timer() = default;
 
     [[noreturn]] void run()
     {
@@ -61,6 +68,7 @@ private:
 
     std::mutex mMutex;
     std::condition_variable mChanged;
+    bool mIsRunning = false;
     std::multimap<host::Clock::TimePoint, std::function<void()>> mFunctions; ///< by the time they are due
 };
 
