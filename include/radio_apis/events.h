@@ -4,13 +4,12 @@
 /// Two things are needed: the modem must be told to send an indication (radioRegisterVsEvent,
 /// radioRegisterRadioEvent), and somebody must listen for the event it becomes (registerRadioEvent).
 ///
-/// What an instance has switched on is remembered in two places: by the instance itself, for all its threads, and by
-/// the message library. radioApisDeinit, and radioApisReleaseService of any instance, make the message library
-/// forget the subscriptions of all instances; the instances that stay do not notice. There the two registrations
-/// then find everything in the wanted state, return 0 and register nothing - but for the packet route and RTP
-/// session indications, which radioRegisterRadioEvent registers each time. radioApisInit of that instance makes it
-/// forget as well: switching on works again after it. It ends the subscriptions that other threads made on the
-/// instance, too.
+/// What is switched on is remembered twice: by the instance, for all its threads, and by the message library.
+/// radioApisDeinit, and radioApisReleaseService of any instance, make the message library forget the subscriptions of
+/// all instances. The instances that stay do not notice: what was on counts as on, and switching it on again
+/// registers nothing and returns 0. To get it back, call radioApisInit of that instance, which makes the instance
+/// forget, too, and then switch on again. Whichever thread calls radioApisInit ends the instance's subscriptions for
+/// all of them.
 #pragma once
 
 #include "radio_apis/blob.h"
@@ -86,7 +85,8 @@ struct RegVsEvtType {
 static_assert(sizeof(RegVsEvtType) == 16);
 
 /// The switchable standard indications. Each call of radioRegisterRadioEvent switches on those of
-/// RADIO_EVENT_DATA_IFUP_PACKET_ROUTE and RADIO_EVENT_CALL_RTP_SESSION_MLC, whatever its switches say.
+/// RADIO_EVENT_DATA_IFUP_PACKET_ROUTE and RADIO_EVENT_CALL_RTP_SESSION_MLC, whatever its switches say, and also when
+/// they are on already.
 struct RegRadioEvtType {
     RadioEventSwitch nwEtxPower;  ///< RADIO_EVENT_NW_ETX_POWER
     RadioEventSwitch msimSubMode; ///< RADIO_EVENT_MSIM_SUB_MODE

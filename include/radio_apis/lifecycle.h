@@ -41,9 +41,8 @@ RADIO_API int radioApisInit(RADIO_APIS_SERVICE_TYPE service, RADIO_SUBS_ID_TYPE 
 /// @return 0
 RADIO_API int radioApisReleaseService(RADIO_APIS_SERVICE_TYPE service);
 
-/// Ends the subscriptions of indications of all instances. Clients, listeners and the open channel stay. An
-/// instance that is to go on gets its indications back with radioApisInit and, after that, radioRegisterVsEvent and
-/// radioRegisterRadioEvent; without radioApisInit these two return 0 and register nothing, see events.h.
+/// Ends the subscriptions of indications of all instances. Clients, listeners and the open channel stay. The head of
+/// events.h tells how an instance gets its indications back: with radioApisInit first.
 ///
 /// @return 0
 RADIO_API int radioApisDeinit(void);
