@@ -43,10 +43,6 @@ TEST(Frame, comesBackAsTheSameMessage)
 
 TEST(Frame, malformedOnesAreRefused)
 {
-    Bytes arrays; // small on the wire, too large in memory
-    for (int i = 0; i < 5; ++i) {
-        arrays.insert(arrays.end(), {2, 0, 0, 0xFF, 0xFF, 0, 0});
-    }
     const std::pair<const char*, Bytes> rows[] = {
         // what stands behind the five header bytes
         {"unknown record", {3, 0, 0, 0, 0}},
@@ -55,7 +51,7 @@ TEST(Frame, malformedOnesAreRefused)
         {"more elements than there are", {2, 0, 0, 1, 0, 1, 0}},
         {"an index above the count", {2, 0, 0, 1, 0, 1, 0, 1, 0, 0, 0}},
         {"an element set twice", {2, 0, 0, 2, 0, 2, 0, 1, 0, 0, 0, 1, 0, 0, 0}},
-        {"arrays without room", arrays},
+        {"elements out of order", {2, 0, 0, 2, 0, 2, 0, 1, 0, 0, 0, 0, 0, 0, 0}},
     };
     for (const auto& [what, body] : rows) {
         Bytes frame = {static_cast<uint8_t>(5 + body.size()), 0, 0, 0, 1, 0, 2, 0, 1};
@@ -63,6 +59,27 @@ TEST(Frame, malformedOnesAreRefused)
         EXPECT_FALSE(host::decodeFrame(frame)) << what;
     }
     EXPECT_FALSE(host::frameSize(Bytes4{4, 0, 0, 0}) || host::frameSize(Bytes4{0, 0, 0x11, 0}));
+}
+
+TEST(Frame, takesMemoryForWhatItHolds)
+{
+    const MessagePtr message(vorn_msg_init(1, 1));
+    for (uint16_t tag = 1; tag <= 2; ++tag) {
+        vorn_msg_add_array(message.get(), tag, 65535);
+        vorn_msg_add_idx(message.get(), tag, 65534, 4, "last");
+        vorn_msg_add_idx(message.get(), tag, 500, 5, "first");
+        vorn_msg_add_idx(message.get(), tag, 2000, 3, "mid");
+    }
+    const MessagePtr decoded = host::decodeFrame(frameOf(message));
+    EXPECT_LT(Message::of(*decoded).memoryUse(), 1000U);
+    EXPECT_EQ(frameOf(decoded), frameOf(message));
+    EXPECT_EQ(vorn_msg_get_tlv_num(decoded.get(), 2), 65535);
+    for (const auto& [index, length] :
+         {std::pair(65534, 4), {500, 5}, {2000, 3}, {499, 0}, {0, 0}, {65533, 0}}) {
+        uint16_t size = 99;
+        vorn_msg_get_idx_ptr(decoded.get(), 2, static_cast<uint16_t>(index), &size);
+        EXPECT_EQ(size, length) << index;
+    }
 }
 
 TEST(Frame, damagedOnesDoNoHarm)

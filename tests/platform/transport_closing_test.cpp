@@ -61,8 +61,11 @@ TEST_F(TransportTest, unregisteringWaitsForTheRunningCallback)
             entered.set_value();
             released.get_future().wait();
         };
-        ASSERT_TRUE(open() && listen(held));
-        modem.link->received(messageOf(0));
+        modem.behaviour = [](uint16_t, auto& link) { // both in one batch
+            link.received(messageOf(0));
+            link.received(messageOf(0));
+        };
+        ASSERT_TRUE(open() && listen(held) && send(answers));
         entered.get_future().wait();
         transport.unregisterIndication(2, kMessage); // another one, so this does not wait
         std::thread thread([&] {
@@ -71,6 +74,7 @@ TEST_F(TransportTest, unregisteringWaitsForTheRunningCallback)
         });
         released.set_value();
         thread.join();
+        transport.close();
     }
 }
 

@@ -21,9 +21,10 @@ using host::MessagePtr;
 constexpr uint16_t kMessage = 0x3801;
 
 /// An answer, or an indication when its transaction is 0.
-inline MessagePtr messageOf(uint16_t transaction, uint32_t result = 0, uint8_t slot = 1)
+inline MessagePtr messageOf(uint16_t transaction, uint32_t result = 0, uint8_t slot = 1,
+                            uint16_t id = kMessage)
 {
-    MessagePtr message(vorn_msg_init_with_txid(kMessage, slot, transaction));
+    MessagePtr message(vorn_msg_init_with_txid(id, slot, transaction));
     vorn_msg_add_tlv(message.get(), 0, sizeof result, &result);
     return message;
 }
@@ -35,19 +36,21 @@ struct FakeModem {
     std::atomic<int> failures{0}; ///< so many times the link can't be opened
     host::LinkEvents* link = nullptr;
     Inbox<bool> attempts; ///< to open the link
+    Inbox<bool> resumed;
     Inbox<uint16_t> requests;
 };
 
 struct FakeLink : host::Link {
     FakeLink(FakeModem& itsModem, host::LinkEvents& events) : modem(itsModem) { modem.link = &events; }
 
-    void open() override
+    void open(std::chrono::milliseconds) override
     {
         modem.attempts.add(true);
-        if (modem.failures-- > 0) {
-            throw host::LinkError("the modem is away");
+        if (const int failure = modem.failures--; failure > 0) {
+            failure % 2 == 0 ? throw host::LinkError("the modem is away") : throw std::bad_alloc();
         }
     }
+    void resume() override { modem.resumed.add(true); }
     void close() override {}
     void send(const vorn_msg_t& request) override
     {
@@ -56,7 +59,10 @@ struct FakeLink : host::Link {
         }
         modem.requests.add(request.hdr.tx_id);
     }
-    std::optional<std::string> control(const std::string& command) override { return "did " + command; }
+    void control(const std::string& command, host::ControlAnswer answer) override
+    {
+        answer.set_value("did " + command);
+    }
 
     FakeModem& modem;
 };

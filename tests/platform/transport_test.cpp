@@ -16,9 +16,19 @@ TEST_F(TransportTest, everyRequestHasOneAnswerWhateverTheModemDoes)
         {"an answer", answer, 0, 0},
         {"a failure", [](uint16_t tx, auto& link) { link.received(messageOf(tx, 21)); }, 21, 0},
         {"two answers", [](uint16_t tx, auto& link) { answer(tx, link), answer(tx, link); }, 0, 1},
+        {"another slot's answer", [](uint16_t tx, auto& link) { link.received(messageOf(tx, 0, 2)); },
+         host::kResultTimeout, 2},
+        {"another message", [](uint16_t tx, auto& link) { link.received(messageOf(tx, 0, 1, 7)); },
+         host::kResultTimeout, 2},
         {"silence", nullptr, host::kResultTimeout, 1},
         {"another's answer", [](uint16_t tx, auto& link) { answer(tx ^ 1, link); }, host::kResultTimeout, 2},
         {"the end of the link", [](uint16_t, auto& link) { link.lost(0ms); }, host::kResultLinkLost, 1},
+        {"a link without memory",
+         [this](uint16_t tx, auto&) {
+             modem.requests.add(tx);
+             throw std::bad_alloc();
+         },
+         host::kResultLinkLost, 2},
     };
     size_t requests = 0;
     for (const auto& [what, behaviour, result, rowWarnings] : rows) {
@@ -84,6 +94,56 @@ TEST_F(TransportTest, lostLinkAnswersEverythingAndComesBack)
     EXPECT_TRUE(send(answers));
     EXPECT_EQ(answers.waitFor(kRequests + 1).back(), 0u);
     EXPECT_EQ(transport.control("{}"), "did {}");
+}
+
+TEST_F(TransportTest, slowCallbacksHoldUpNeitherDeadlinesNorTheLink)
+{
+    const std::pair<std::chrono::milliseconds, size_t> rows[] = {{59s, 0},
+                                                                 {60s, 1}}; // a callback's time, answers
+    for (const auto& [pause, answered] : rows) {
+        Answers request;
+        Answers indications;
+        std::vector<size_t> seen;
+        indications.onAnswer = [&, pause = pause] {
+            seen.push_back(request.waitFor(0).size());
+            Clock::advance(seen.size() == 1 ? pause : 0s);
+        };
+        modem.behaviour = [](uint16_t, auto& link) { // all that the link brings at once is one batch
+            for (int i = 0; i < 3; ++i) {
+                link.received(messageOf(0));
+            }
+        };
+        ASSERT_TRUE(open() && listen(indications) && send(request));
+        indications.waitFor(3);
+        transport.close();
+        EXPECT_EQ(seen, (std::vector<size_t>{0, answered, answered}));
+    }
+}
+
+TEST_F(TransportTest, linkPausesWhileTooMuchWaits)
+{
+    constexpr size_t kMost = size_t{16} << 20;
+    Inbox<bool> released;
+    Answers held;
+    held.onAnswer = [&] { released.waitFor(1); };
+    ASSERT_TRUE(open() && listen(held));
+    size_t messages = 0;
+    size_t bytes = 0;
+    bool hasRoom = true;
+    while (hasRoom && bytes < 4 * kMost) { // the first of them may be a batch of its own
+        MessagePtr message = messageOf(0);
+        vorn_msg_add_array(message.get(), 7, 10'000);
+        bytes += host::Message::of(*message).memoryUse();
+        hasRoom = modem.link->received(std::move(message));
+        ++messages;
+    }
+    EXPECT_FALSE(hasRoom);
+    EXPECT_GT(bytes, kMost);
+    EXPECT_TRUE(modem.resumed.waitFor(0).empty());
+    released.add(true);
+    held.waitFor(messages);
+    EXPECT_EQ(modem.resumed.waitFor(1).size(), 1u);
+    EXPECT_TRUE(modem.link->received(messageOf(0)));
 }
 
 TEST_F(TransportTest, transactionsAreNeverSharedAndRunOut)

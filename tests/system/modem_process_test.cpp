@@ -4,6 +4,7 @@
 
 #include "host/clock.h"
 #include "host/device.h"
+#include "host/log_sink.h"
 #include "mindroid/promise.h"
 #include "vorn/vorn_msg.h"
 
@@ -14,7 +15,9 @@
 #include <array>
 #include <fstream>
 #include <future>
+#include <poll.h>
 #include <random>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -309,6 +312,140 @@ TEST_F(ModemSim, IsTakenForLostWhenItTalksNonsense)
     open.back().close();
     answers.expectOnceEach(1);
     EXPECT_EQ(answers.failures(), 1U);
+}
+
+/// A modem that the test plays at the other end of the socket.
+class PlayedModem : public ModemSim {
+protected:
+    ~PlayedModem() override
+    {
+        host::Clock::thaw();
+        host::setLogSink(nullptr);
+    }
+
+    /// Connects until no more connections fit into the listener's queue.
+    void fillQueue()
+    {
+        const Local::endpoint place(modem.socket().string());
+        acceptor.listen(1);
+        do {
+            waiting.emplace_back(context, Local()).native_non_blocking(true);
+        } while (
+            connect(waiting.back().native_handle(), place.data(), static_cast<socklen_t>(place.size())) == 0);
+    }
+    void emptyQueue()
+    {
+        asio::error_code error;
+        acceptor.non_blocking(true);
+        while (!error) {
+            acceptor.accept(error);
+        }
+        acceptor.non_blocking(false);
+    }
+
+    /// Waits until the log tells that the link can't be opened, and once more, so that nothing hung in between.
+    template <typename Lose>
+    void expectRetries(const std::string& reason, Lose lose)
+    {
+        static Happenings& retries = *new Happenings;
+        host::setLogSink([reason](const host::LogLine& line) {
+            if (line.text.find(reason) != std::string::npos) {
+                retries.note(1);
+            }
+        });
+        lose();
+        retries.await(2);
+    }
+
+    asio::io_context context;
+    Local::acceptor acceptor{context, Local::endpoint(modem.socket().string())};
+    std::vector<Local::socket> waiting;
+};
+
+TEST_F(PlayedModem, MayHaveNoRoomForAConnection)
+{
+    fillQueue();
+    setenv("RADIO_VORN_DEVICE", modem.device().c_str(), 1);
+    EXPECT_NE(vorn_init_debug("test"), 0);
+    emptyQueue();
+    use(modem.device());
+    Local::socket client = acceptor.accept();
+    states.await(1);
+    expectRetries("takes no connection", [&] {
+        fillQueue();
+        client.close();
+    });
+    emptyQueue();
+    states.await(3);
+}
+
+TEST_F(PlayedModem, IsFoundAgainWhenThereAreDescriptorsAgain)
+{
+    use(modem.device());
+    Local::socket client = acceptor.accept();
+    states.await(1);
+    rlimit most{};
+    getrlimit(RLIMIT_NOFILE, &most);
+    expectRetries("can't reopen the link", [&] {
+        const rlimit none{0, most.rlim_max};
+        setrlimit(RLIMIT_NOFILE, &none);
+        client.shutdown(Local::socket::shutdown_both);
+    });
+    setrlimit(RLIMIT_NOFILE, &most);
+    states.await(3);
+}
+
+TEST_F(PlayedModem, HoldsUpOnlyThoseWhoCommandIt)
+{
+    use(modem.device());
+    Local::socket client = acceptor.accept();
+    states.await(1);
+    host::Clock::freeze();
+    auto command = std::async(std::launch::async, [] {
+        return vorn_host_control(
+            "{}", [](const char*, void*) {}, nullptr);
+    });
+    std::array<char, 16> bytes{};
+    client.read_some(asio::buffer(bytes)); // it is on its way
+    Answers answers(1);
+    ASSERT_EQ(radioSendScreenState(1, answers.userData(0), Answers::onResult), 0);
+    host::Clock::advance(60s);
+    answers.expectOnceEach(1);
+    EXPECT_EQ(command.wait_for(0s), std::future_status::timeout);
+    client.close();
+    EXPECT_LT(command.get(), 0);
+}
+
+TEST_F(PlayedModem, IsNotReadWhileTooMuchWaits)
+{
+    use(modem.device());
+    Local::socket client = acceptor.accept();
+    static std::promise<void>& released = *new std::promise<void>;
+    static Happenings& received = *new Happenings;
+    const auto count = [](vorn_msg_t*, void*) {
+        static const bool once = (released.get_future().wait(), true);
+        received.note(once);
+    };
+    ASSERT_EQ(vorn_msg_register_ind_api(1, 7, count, 0, nullptr), 0);
+    constexpr size_t kMost = 200'000;
+    const std::string frame("\x05\0\0\0\x07\0\0\0\x01", 9);
+    client.non_blocking(true);
+    size_t sent = 0;
+    asio::error_code error;
+    size_t begun = 0; // of the frame that is being sent
+    while (sent < kMost) {
+        const size_t size = client.write_some(asio::buffer(frame.substr(begun)), error);
+        begun = (begun + size) % frame.size();
+        sent += size != 0 && begun == 0 ? 1 : 0;
+        pollfd writable{client.native_handle(), POLLOUT, 0};
+        if (error && poll(&writable, 1, 500) == 0) {
+            break; // it takes nothing more
+        }
+    }
+    EXPECT_LT(sent, kMost);
+    released.set_value();
+    received.await(sent);
+    EXPECT_EQ(vorn_msg_unregister_ind_api(1, 7), 0);
 }
 
 } // namespace

@@ -2,12 +2,30 @@
 
 #include "zor/log.h"
 
+#include <cerrno>
+#include <sys/socket.h>
+#include <utility>
+
 namespace host {
 namespace {
 
 constexpr const char* kTag = "vorn";
 
 } // namespace
+
+bool connectNow(Socket& socket, const std::string& path)
+{
+    const Socket::endpoint_type endpoint(path);
+    socket.native_non_blocking(true);
+    // Not by Asio, which goes on to wait.
+    if (::connect(socket.native_handle(), endpoint.data(), static_cast<socklen_t>(endpoint.size())) == 0) {
+        return true;
+    }
+    if (errno == EAGAIN) {
+        return false;
+    }
+    throw asio::system_error(errno, asio::error::get_system_category());
+}
 
 void Connection::send(const vorn_msg_t& message)
 {
@@ -60,9 +78,26 @@ void Connection::read()
                             });
 }
 
+void Connection::resume()
+{
+    if (std::exchange(mIsPaused, false)) {
+        handOut();
+    }
+}
+
+/// Whoever is told may find no memory. What came is lost then, and the peer must not wait for an answer.
 void Connection::handOut()
 {
-    while (mState == State::Open) {
+    try {
+        handOutFrames();
+    } catch (const std::exception& error) {
+        end(error.what());
+    }
+}
+
+void Connection::handOutFrames()
+{
+    while (mState == State::Open && !mIsPaused) {
         const std::optional<std::span<const uint8_t>> frame = mIncoming.next();
         if (!frame) {
             break;
@@ -73,7 +108,7 @@ void Connection::handOut()
             zorLogW(kTag, "dropped a frame of %zu bytes that holds no message", frame->size());
         }
     }
-    if (mState != State::Open) {
+    if (mState != State::Open || mIsPaused) {
         return;
     }
     if (mIncoming.isBroken()) {

@@ -13,6 +13,10 @@ namespace host {
 
 using Socket = asio::local::stream_protocol::socket;
 
+/// Connects without waiting. False when the listener has no room for another connection now; throws
+/// asio::system_error when there is no listener.
+bool connectNow(Socket& socket, const std::string& path);
+
 class Connection;
 
 /// What a connection has to tell, on the thread that runs its io_context.
@@ -33,7 +37,11 @@ class Connection : public std::enable_shared_from_this<Connection> {
 public:
     Connection(Socket socket, ConnectionEvents& events) : mSocket(std::move(socket)), mEvents(events) {}
 
-    void start() { read(); }
+    void start() { handOut(); }
+
+    /// From within received() only: nothing more is read or told until resume().
+    void pause() { mIsPaused = true; }
+    void resume();
 
     void send(const vorn_msg_t& message);
     void send(std::span<const uint8_t> frames);
@@ -54,6 +62,7 @@ private:
 
     void read();
     void handOut();
+    void handOutFrames();
     void write();
     void end(const std::string& reason);
 
@@ -62,6 +71,7 @@ private:
     Socket mSocket;
     ConnectionEvents& mEvents;
     State mState = State::Open;
+    bool mIsPaused = false;
     FrameStream mIncoming;
     std::vector<uint8_t> mUnsent;  ///< frames behind those being written
     std::vector<uint8_t> mSending; ///< empty when none are being written

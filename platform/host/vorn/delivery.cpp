@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <utility>
 
 namespace host {
 namespace {
@@ -17,6 +18,12 @@ constexpr const char* kTag = "vorn";
 constexpr milliseconds kFirstBackOff{100};
 constexpr milliseconds kLongestBackOff{5000};
 
+/// A callback is the caller's: an exception that leaves one ends the program where it was thrown.
+void call(vorn_msg_cb callback, vorn_msg_t& message, void* user) noexcept
+{
+    callback(&message, user);
+}
+
 /// The library's own answer to a request that the modem did not answer.
 void answer(const PendingRequest& request, uint32_t result)
 {
@@ -25,23 +32,33 @@ void answer(const PendingRequest& request, uint32_t result)
     std::copy_n(reinterpret_cast<const uint8_t*>(&result), sizeof result, bytes);
     Message message(request.header);
     message.addField(0, bytes);
-    request.callback(&message, request.user);
+    call(request.callback, message, request.user);
+}
+
+/// The link's state changed. Whoever hears of it may find no memory, which is no reason to stop here.
+void tell(LinkState state)
+{
+    try {
+        publishLinkState(state);
+    } catch (const std::exception& error) {
+        zorLogE(kTag, "can't tell the state of the link: %s", error.what());
+    }
 }
 
 } // namespace
 
 void Transport::run()
 {
-    std::unique_lock lock(mMutex);
     while (mState == State::Open) {
-        waitForWork(lock);
-        mBatch.swap(mQueue);
-        lock.unlock();
-        deliverBatch();
-        serveLink();
-        answerOverdue();
-        lock.lock();
+        try {
+            serve();
+        } catch (const std::exception& error) {
+            zorLogE(kTag, "the link is given up: %s", error.what());
+            mBatch.clear();
+            lost(kFirstBackOff);
+        }
     }
+    std::unique_lock lock(mMutex);
     if (mState == State::Closing) {
         lock.unlock();
         tearDown();
@@ -53,20 +70,43 @@ void Transport::run()
     mStateChanged.notify_all();
 }
 
+/// Does all that there is to do now, or waits until there is something.
+void Transport::serve()
+{
+    std::unique_lock lock(mMutex);
+    waitForWork(lock);
+    const auto loss = mQueue.empty() ? std::exchange(mLoss, std::nullopt) : std::nullopt;
+    mBatch.swap(mQueue);
+    mQueuedBytes = 0;
+    const bool wasFull = std::exchange(mIsFull, false);
+    lock.unlock();
+    if (wasFull) {
+        mLink->resume();
+    }
+    if (loss) {
+        handleLoss(*loss);
+    }
+    deliverBatch();
+    meetDeadlines();
+}
+
 void Transport::waitForWork(std::unique_lock<std::mutex>& lock)
 {
-    const Clock::TimePoint deadline = std::min({mPending.nextDeadline(), mLink->nextDeadline(), mReopenAt});
+    const Clock::TimePoint deadline = nextDeadline();
+    mServeAt = std::min(mServeAt, deadline);
     mSleeping = true;
-    Clock::waitUntil(mWake, lock, deadline, [this] { return mState != State::Open || !mQueue.empty(); });
+    Clock::waitUntil(mWake, lock, deadline,
+                     [this] { return mState != State::Open || !mQueue.empty() || mLoss; });
     mSleeping = false;
 }
 
 void Transport::deliverBatch()
 {
-    for (size_t next = 0; next < mBatch.size(); ++next) {
+    for (size_t next = 0; next < mBatch.size() && mState == State::Open; ++next) {
         // Taken out first: a callback that closes the transport clears the batch.
         Item item = std::move(mBatch[next]);
         std::visit([this](auto& what) { handle(what); }, item);
+        meetDeadlines();
     }
     mBatch.clear();
 }
@@ -74,6 +114,7 @@ void Transport::deliverBatch()
 void Transport::handle(Outgoing& request)
 {
     mLink->send(*request.message);
+    mServeAt = std::min(mServeAt, mLink->nextDeadline());
 }
 
 void Transport::handle(Incoming& message)
@@ -85,28 +126,38 @@ void Transport::handle(Incoming& message)
     }
 }
 
-void Transport::handle(Loss& loss)
+void Transport::handleLoss(milliseconds retryAfter)
 {
     zorLogW(kTag, "the link to the modem is lost");
-    mLink->close();
     mBackOff = kFirstBackOff;
-    mReopenAt = Clock::now() + loss.retryAfter;
-    publishLinkState(LinkState::Lost);
+    mReopenAt = Clock::now() + retryAfter;
+    mServeAt = std::min(mServeAt, mReopenAt);
+    mLink->close();
+    tell(LinkState::Lost);
     answerAll(kResultLinkLost);
 }
 
 void Transport::handle(CommandPtr& command)
 {
-    command->answer.set_value(mLink->control(command->text));
+    mLink->control(command->text, std::move(command->answer));
+    mServeAt = std::min(mServeAt, mLink->nextDeadline());
 }
 
 void Transport::deliverAnswer(vorn_msg_t& answer)
 {
-    std::unique_lock lock(mMutex);
-    const std::optional<PendingRequest> request = mPending.take(answer.hdr.tx_id);
-    lock.unlock();
+    const auto keyOfHeader = [](const vorn_msg_hdr_t& header) {
+        return keyOf(header.slot_id, header.msg_id);
+    };
+    std::optional<PendingRequest> request;
+    {
+        const std::lock_guard lock(mMutex);
+        const PendingRequest* pending = mPending.find(answer.hdr.tx_id);
+        if (pending != nullptr && keyOfHeader(pending->header) == keyOfHeader(answer.hdr)) {
+            request = mPending.take(answer.hdr.tx_id);
+        }
+    }
     if (request) {
-        request->callback(&answer, request->user);
+        call(request->callback, answer, request->user);
     } else {
         zorLogW(kTag,
                 "dropped a late, repeated or unasked answer: message 0x%04x, slot bit %d, transaction %d",
@@ -126,19 +177,39 @@ void Transport::deliverIndication(vorn_msg_t& indication)
     mRunning = key;
     ++mRunNumber;
     lock.unlock();
-    registered.callback(&indication, registered.user);
+    call(registered.callback, indication, registered.user);
     lock.lock();
     mRunning.reset();
     mRunEnded.notify_all();
 }
 
+/// Of all that this thread has to do on its own. Under the mutex.
+Clock::TimePoint Transport::nextDeadline() const
+{
+    const Clock::TimePoint ofLink = mLink ? mLink->nextDeadline() : Clock::TimePoint::max();
+    return std::min({mPending.nextDeadline(), ofLink, mReopenAt});
+}
+
+/// Runs after each message, since callbacks take their time; so it looks closer only when there may be
+/// something to do.
+void Transport::meetDeadlines()
+{
+    const Clock::TimePoint now = Clock::now();
+    if (now < mServeAt) {
+        return;
+    }
+    serveLink(now);
+    answerOverdue(now);
+    const std::lock_guard lock(mMutex);
+    mServeAt = std::min(nextDeadline(), now + mTimeout); // what is sent from now on is due later
+}
+
 /// Gives the link its time. There is none after a callback has closed the transport.
-void Transport::serveLink()
+void Transport::serveLink(Clock::TimePoint now)
 {
     if (!mLink) {
         return;
     }
-    const Clock::TimePoint now = Clock::now();
     if (mLink->nextDeadline() <= now) {
         mLink->advance(now);
     }
@@ -156,10 +227,7 @@ void Transport::reopenLink(Clock::TimePoint now)
         }
     };
     enter(LinkPhase::Down, LinkPhase::Opening);
-    try {
-        mLink->open();
-    } catch (const LinkError& error) {
-        zorLogD(kTag, "the link is still lost: %s", error.what());
+    if (!tryToReopenLink()) {
         enter(LinkPhase::Opening, LinkPhase::Down);
         mReopenAt = now + mBackOff;
         mBackOff = std::min(mBackOff * 2, kLongestBackOff);
@@ -167,12 +235,24 @@ void Transport::reopenLink(Clock::TimePoint now)
     }
     mReopenAt = Clock::TimePoint::max();
     enter(LinkPhase::Opening, LinkPhase::Up);
-    publishLinkState(LinkState::Up);
+    tell(LinkState::Up);
 }
 
-void Transport::answerOverdue()
+bool Transport::tryToReopenLink()
 {
-    const Clock::TimePoint now = Clock::now();
+    try {
+        mLink->open(milliseconds(0));
+        return true;
+    } catch (const LinkError& error) {
+        zorLogD(kTag, "the link is still lost: %s", error.what());
+    } catch (const std::exception& error) {
+        zorLogW(kTag, "can't reopen the link: %s", error.what());
+    }
+    return false;
+}
+
+void Transport::answerOverdue(Clock::TimePoint now)
+{
     std::unique_lock lock(mMutex);
     while (const std::optional<PendingRequest> request = mPending.takeOverdue(now)) {
         lock.unlock();
@@ -197,16 +277,13 @@ void Transport::tearDown()
 {
     mLink->close();
     mLink.reset();
-    std::vector<Item> dropped = std::move(mBatch);
     mBatch.clear();
     {
         const std::lock_guard lock(mMutex);
-        std::move(mQueue.begin(), mQueue.end(), std::back_inserter(dropped));
-        mQueue.clear();
+        forgetQueue();
         mIndications.clear();
     }
-    dropped.clear();
-    publishLinkState(LinkState::Unknown);
+    tell(LinkState::Unknown);
     answerAll(kResultClosed);
 }
 

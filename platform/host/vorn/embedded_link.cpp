@@ -1,7 +1,13 @@
 #include "embedded_link.h"
 
+#include "zor/log.h"
+
+#include <utility>
+
 namespace host {
 namespace {
+
+constexpr const char* kEmbeddedTag = "vorn";
 
 constexpr sim::ClientId kOnlyClient = 0;
 
@@ -25,9 +31,17 @@ Clock::TimePoint EmbeddedLink::nextDeadline() const
     return mModem.nextDeadline().value_or(Clock::TimePoint::max());
 }
 
-std::optional<std::string> EmbeddedLink::control(const std::string& command)
+void EmbeddedLink::resume()
 {
-    return mModem.control(command, Clock::now());
+    mIsFull = false;
+    if (const size_t dropped = std::exchange(mDropped, 0); dropped != 0) {
+        zorLogW(kEmbeddedTag, "the modem dropped %zu indications: callbacks take longer than they have", dropped);
+    }
+}
+
+void EmbeddedLink::control(const std::string& command, ControlAnswer answer)
+{
+    answer.set_value(mModem.control(command, Clock::now()));
 }
 
 void EmbeddedLink::answer(sim::ClientId /*client*/, sim::Message message)
@@ -39,10 +53,16 @@ void EmbeddedLink::answer(sim::ClientId /*client*/, sim::Message message)
 
 void EmbeddedLink::indicate(sim::Message message)
 {
-    if (mIsOpen) {
-        message->hdr.tx_id = 0;
-        mEvents.received(MessagePtr(message.release()));
+    if (!mIsOpen) {
+        return;
     }
+    // The modem lives from the thread that delivers, and so can't wait for it.
+    if (mIsFull) {
+        ++mDropped;
+        return;
+    }
+    message->hdr.tx_id = 0;
+    mIsFull = !mEvents.received(MessagePtr(message.release()));
 }
 
 void EmbeddedLink::disconnect(std::chrono::milliseconds downFor)

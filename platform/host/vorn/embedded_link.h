@@ -11,12 +11,13 @@ public:
     EmbeddedLink(const sim::Scenario& scenario, LinkEvents& events) : mEvents(events), mModem(scenario, *this)
     {}
 
-    void open() override { mIsOpen = true; }
+    void open(std::chrono::milliseconds /*patience*/) override { mIsOpen = true; }
     void close() override;
     void send(const vorn_msg_t& request) override;
     Clock::TimePoint nextDeadline() const override;
     void advance(Clock::TimePoint now) override { mModem.advance(now); }
-    std::optional<std::string> control(const std::string& command) override;
+    void resume() override;
+    void control(const std::string& command, ControlAnswer answer) override;
 
 private:
     void answer(sim::ClientId client, sim::Message message) override;
@@ -25,6 +26,8 @@ private:
 
     LinkEvents& mEvents;
     bool mIsOpen = false;
+    bool mIsFull = false;
+    size_t mDropped = 0; ///< indications since it became full
     sim::Modem mModem;
 };
 

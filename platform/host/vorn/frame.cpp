@@ -1,8 +1,8 @@
 // A message as a frame on a byte stream, all numbers little-endian:
 //   u32 size of what follows, u16 message id, u16 transaction, u8 slot, then the records:
 //   u8 1, u16 tag, u16 length, bytes                           a field
-//   u8 2, u16 tag, u16 count, u16 number of elements that are set, then for each: u16 index, u16 length,
-//   bytes
+//   u8 2, u16 tag, u16 count, u16 number of elements that are set, then for each, by ascending index:
+//   u16 index, u16 length, bytes
 #include "message.h"
 
 namespace host {
@@ -52,21 +52,13 @@ void Message::encode(std::vector<uint8_t>& out) const
 
 void Message::encodeArray(size_t array, std::vector<uint8_t>& out) const
 {
-    const uint16_t count = countAt(array);
-    put16(out, count);
-    const size_t numberAt = out.size();
-    put16(out, 0);
-    size_t number = 0;
-    for (uint16_t index = 0; index < count; ++index) {
-        const std::span<const uint8_t> value = elementAt(array, index);
-        if (value.data() != nullptr) {
-            put16(out, index);
-            putBytes(out, value);
-            ++number;
-        }
+    const Counts counts = countsAt(array);
+    put16(out, counts.elements);
+    put16(out, counts.used);
+    for (size_t slot = 0; slot < counts.used; ++slot) {
+        put16(out, indexAt(array, slot));
+        putBytes(out, elementIn(array, slot));
     }
-    out[numberAt] = static_cast<uint8_t>(number);
-    out[numberAt + 1] = static_cast<uint8_t>(number >> 8);
 }
 
 /// Walks over the bytes of a frame, of which none can be trusted. After a failure it stays failed.
@@ -106,12 +98,15 @@ private:
     {
         const uint16_t count = take16();
         const uint16_t number = take16();
-        mFailed = mFailed || !message.addArray(tag, count);
+        // No more memory than the bytes that came account for, whatever they claim.
+        constexpr size_t kLeastElement = 4;
+        mFailed = mFailed || mRest.size() < number * kLeastElement || !message.addArray(tag, count, number);
         const size_t array = message.mLast;
-        for (uint16_t i = 0; i < number && !mFailed; ++i) {
+        for (uint32_t i = 0, next = 0; i < number && !mFailed; ++i) {
             const uint16_t index = take16();
             const std::span<const uint8_t> value = takeBytes(take16());
-            mFailed = mFailed || !message.addElementAt(array, index, value);
+            mFailed = mFailed || index < next || !message.addElementAt(array, index, value);
+            next = index + 1U;
         }
     }
 

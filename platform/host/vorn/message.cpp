@@ -7,11 +7,12 @@
 namespace host {
 namespace {
 
-/// An array's record: header, count, and for each element where it stands, counted from the record's begin
-/// (so that a copied record needs no repair), 0 for one that was never set. An element: its length, its
-/// bytes.
-constexpr size_t kCountSize = sizeof(uint16_t);
+/// An array's record: header, counts, slots, and the elements that were set before another record followed. A
+/// slot: the index of its element and where that stands, counted from the record's begin (so that a copied
+/// record needs no repair). The slots in use come first, in the order of their indexes. An element: its
+/// length, its bytes.
 constexpr size_t kOffsetSize = sizeof(uint32_t);
+constexpr size_t kSlotSize = sizeof(uint16_t) + kOffsetSize;
 constexpr size_t kLengthSize = sizeof(uint16_t);
 
 template <typename T>
@@ -101,17 +102,15 @@ bool Message::addField(uint16_t tag, std::span<const uint8_t> value)
     return true;
 }
 
-bool Message::addArray(uint16_t tag, uint16_t count)
+bool Message::addArray(uint16_t tag, uint16_t count, uint16_t slots)
 {
     const size_t record = mSize;
-    const size_t size = sizeof(Header) + kCountSize + count * kOffsetSize;
-    uint8_t* place = append(size);
-    if (place == nullptr) {
+    const size_t size = sizeof(Header) + sizeof(Counts) + slots * kSlotSize;
+    if (append(size) == nullptr) {
         return false;
     }
     setHeader(record, {tag, Kind::Array, static_cast<uint32_t>(size)});
-    store(place + sizeof(Header), count);
-    std::memset(place + sizeof(Header) + kCountSize, 0, count * kOffsetSize);
+    setCounts(record, {count, slots, 0});
     mLast = record;
     return true;
 }
@@ -131,22 +130,53 @@ bool Message::appendFieldsOf(const Message& other)
     return true;
 }
 
-uint16_t Message::countAt(size_t array) const
+Message::Counts Message::countsAt(size_t array) const
 {
-    return load<uint16_t>(mData + array + sizeof(Header));
+    return load<Counts>(mData + array + sizeof(Header));
 }
 
-uint32_t Message::elementOffset(size_t array, uint16_t index) const
+void Message::setCounts(size_t array, const Counts& counts)
 {
-    return load<uint32_t>(mData + array + sizeof(Header) + kCountSize + index * kOffsetSize);
+    store(mData + array + sizeof(Header), counts);
 }
 
-std::span<uint8_t> Message::elementAt(size_t array, uint16_t index) const
+uint8_t* Message::slotAt(size_t array, size_t slot) const
 {
-    if (index >= countAt(array) || elementOffset(array, index) == 0) {
-        return {};
+    return mData + array + sizeof(Header) + sizeof(Counts) + slot * kSlotSize;
+}
+
+uint16_t Message::indexAt(size_t array, size_t slot) const
+{
+    return load<uint16_t>(slotAt(array, slot));
+}
+
+/// The slot in use that holds this index or the first one above; the number of those in use when there is
+/// none. An array without gaps, as nearly every one is, needs no search.
+size_t Message::findSlot(size_t array, uint16_t index) const
+{
+    const size_t used = countsAt(array).used;
+    if (index < used && indexAt(array, index) == index) {
+        return index;
     }
-    uint8_t* place = mData + array + elementOffset(array, index);
+    if (used == 0 || indexAt(array, used - 1) < index) {
+        return used;
+    }
+    size_t first = 0;
+    size_t last = used - 1;
+    while (first < last) {
+        const size_t middle = (first + last) / 2;
+        if (indexAt(array, middle) < index) {
+            first = middle + 1;
+        } else {
+            last = middle;
+        }
+    }
+    return first;
+}
+
+std::span<uint8_t> Message::elementIn(size_t array, size_t slot) const
+{
+    uint8_t* place = mData + array + load<uint32_t>(slotAt(array, slot) + sizeof(uint16_t));
     return {place + kLengthSize, load<uint16_t>(place)};
 }
 
@@ -160,7 +190,10 @@ bool Message::addElement(uint16_t tag, uint16_t index, std::span<const uint8_t> 
 /// only the array's offset leads to.
 bool Message::addElementAt(size_t array, uint16_t index, std::span<const uint8_t> value)
 {
-    if (index >= countAt(array) || elementOffset(array, index) != 0) {
+    Counts counts = countsAt(array);
+    const size_t slot = findSlot(array, index);
+    const bool isSet = slot < counts.used && indexAt(array, slot) == index;
+    if (index >= counts.elements || counts.used == counts.slots || isSet) {
         return false;
     }
     const bool isStray = array != mLast;
@@ -181,8 +214,12 @@ bool Message::addElementAt(size_t array, uint16_t index, std::span<const uint8_t
     }
     store(place, static_cast<uint16_t>(value.size()));
     copyBytes(place + kLengthSize, value);
-    store(mData + array + sizeof(Header) + kCountSize + index * kOffsetSize,
-          static_cast<uint32_t>(place - (mData + array)));
+    uint8_t* taken = slotAt(array, slot);
+    std::memmove(taken + kSlotSize, taken, (counts.used - slot) * kSlotSize);
+    store(taken, index);
+    store(taken + sizeof index, static_cast<uint32_t>(place - (mData + array)));
+    ++counts.used;
+    setCounts(array, counts);
     return true;
 }
 
@@ -198,13 +235,18 @@ std::span<uint8_t> Message::field(uint16_t tag) const
 std::span<uint8_t> Message::element(uint16_t tag, uint16_t index) const
 {
     const std::optional<size_t> array = find(tag, Kind::Array);
-    return array ? elementAt(*array, index) : std::span<uint8_t>();
+    if (!array) {
+        return {};
+    }
+    const size_t slot = findSlot(*array, index);
+    const bool isSet = slot < countsAt(*array).used && indexAt(*array, slot) == index;
+    return isSet ? elementIn(*array, slot) : std::span<uint8_t>();
 }
 
 uint16_t Message::elementCount(uint16_t tag) const
 {
     const std::optional<size_t> array = find(tag, Kind::Array);
-    return array ? countAt(*array) : uint16_t{0};
+    return array ? countsAt(*array).elements : uint16_t{0};
 }
 
 MessagePtr copyOf(const vorn_msg_t& message)

@@ -29,16 +29,20 @@ public:
 
     // Each of these returns false, and changes nothing, when there is no room.
     bool addField(uint16_t tag, std::span<const uint8_t> value);
-    bool addArray(uint16_t tag, uint16_t count);
+    bool addArray(uint16_t tag, uint16_t count) { return addArray(tag, count, count); }
     bool appendFieldsOf(const Message& other);
 
-    /// Also false when there is no such array or element, or the element is set already.
+    /// Also false when there is no such array or element, the element is set already, or the array came in a
+    /// frame: that has room for the elements that came with it.
     bool addElement(uint16_t tag, uint16_t index, std::span<const uint8_t> value);
 
     /// No data when there is no such thing; data of size 0 when it is empty.
     std::span<uint8_t> field(uint16_t tag) const;
     std::span<uint8_t> element(uint16_t tag, uint16_t index) const;
     uint16_t elementCount(uint16_t tag) const;
+
+    /// How much memory it takes, or a little more.
+    size_t memoryUse() const { return sizeof *this + (mHeap ? mCapacity + mCapacity / 2 : 0); }
 
     /// Appends this message as one frame, its size first.
     void encode(std::vector<uint8_t>& out) const;
@@ -55,12 +59,23 @@ private:
         uint32_t size; ///< of the whole record
     };
 
+    /// Behind the header of an array.
+    struct Counts {
+        uint16_t elements;
+        uint16_t slots; ///< so many elements can be set
+        uint16_t used;  ///< so many are
+    };
+
     Header headerAt(size_t record) const;
     void setHeader(size_t record, const Header& header);
     std::optional<size_t> find(uint16_t tag, Kind kind) const;
-    uint16_t countAt(size_t array) const;
-    uint32_t elementOffset(size_t array, uint16_t index) const;
-    std::span<uint8_t> elementAt(size_t array, uint16_t index) const;
+    Counts countsAt(size_t array) const;
+    void setCounts(size_t array, const Counts& counts);
+    uint8_t* slotAt(size_t array, size_t slot) const;
+    uint16_t indexAt(size_t array, size_t slot) const;
+    size_t findSlot(size_t array, uint16_t index) const;
+    std::span<uint8_t> elementIn(size_t array, size_t slot) const;
+    bool addArray(uint16_t tag, uint16_t count, uint16_t slots);
     bool addElementAt(size_t array, uint16_t index, std::span<const uint8_t> value);
     uint8_t* append(size_t size);
     bool grow(size_t needed);

@@ -28,6 +28,12 @@ uint16_t PendingTable::add(const PendingRequest& request)
     return transaction;
 }
 
+const PendingRequest* PendingTable::find(uint16_t transaction) const
+{
+    const Entry& entry = mEntries[transaction];
+    return entry.inUse ? &entry.request : nullptr;
+}
+
 std::optional<PendingRequest> PendingTable::take(uint16_t transaction)
 {
     Entry& entry = mEntries[transaction];

@@ -31,6 +31,9 @@ public:
     /// used in turn, so that it takes long until a late answer could be taken for another request's.
     uint16_t add(const PendingRequest& request);
 
+    /// The request with this transaction, until the table changes; null when there is none.
+    const PendingRequest* find(uint16_t transaction) const;
+
     // Each of these takes one request out of the table, if there is such a one.
     std::optional<PendingRequest> take(uint16_t transaction);
     std::optional<PendingRequest> takeOldest() { return take(mOldest); }

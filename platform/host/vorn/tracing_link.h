@@ -14,7 +14,7 @@ public:
         : mTrace(std::move(trace)), mEvents(events), mLink(makeLink(*this))
     {}
 
-    void open() override { mLink->open(); }
+    void open(std::chrono::milliseconds patience) override { mLink->open(patience); }
     void close() override { mLink->close(); }
     void send(const vorn_msg_t& request) override
     {
@@ -23,16 +23,17 @@ public:
     }
     Clock::TimePoint nextDeadline() const override { return mLink->nextDeadline(); }
     void advance(Clock::TimePoint now) override { mLink->advance(now); }
-    std::optional<std::string> control(const std::string& command) override
+    void resume() override { mLink->resume(); }
+    void control(const std::string& command, ControlAnswer answer) override
     {
-        return mLink->control(command);
+        mLink->control(command, std::move(answer));
     }
 
 private:
-    void received(MessagePtr message) override
+    bool received(MessagePtr message) override
     {
         mTrace->note(sim::Direction::FromModem, *message);
-        mEvents.received(std::move(message));
+        return mEvents.received(std::move(message));
     }
     void lost(std::chrono::milliseconds retryAfter) override { mEvents.lost(retryAfter); }
 

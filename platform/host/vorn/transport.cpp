@@ -15,6 +15,11 @@ using std::chrono::milliseconds;
 constexpr const char* kTag = "vorn";
 
 constexpr milliseconds kDefaultTimeout{60000};
+constexpr milliseconds kOpenPatience{2000};
+constexpr std::chrono::seconds kLongestCommand{10};
+
+/// As much again may be in the batch that is being delivered.
+constexpr size_t kMostQueuedBytes = size_t{16} << 20;
 
 milliseconds requestTimeout()
 {
@@ -58,12 +63,12 @@ bool Transport::open(const LinkFactory& makeLink)
     if (mState != State::Closed && mState != State::Leaving) {
         return mState == State::Open;
     }
-    const State before = std::exchange(mState, State::Opening);
+    const State before = mState.exchange(State::Opening);
     mTimeout = requestTimeout();
     mLinkPhase = LinkPhase::Opening;
     lock.unlock();
     try {
-        openLink(makeLink);
+        openLink(makeLink, isDeliveryThread() ? milliseconds(0) : kOpenPatience);
         lock.lock();
         if (before == State::Closed) {
             mThread = std::thread([this] { run(); });
@@ -78,7 +83,7 @@ bool Transport::open(const LinkFactory& makeLink)
         mLink.reset();
         publishLinkState(LinkState::Unknown);
         lock.lock();
-        mQueue.clear();
+        forgetQueue();
         mLinkPhase = LinkPhase::Down;
         mState = before;
     }
@@ -86,11 +91,21 @@ bool Transport::open(const LinkFactory& makeLink)
     return mState == State::Open;
 }
 
-void Transport::openLink(const LinkFactory& makeLink)
+/// What is destroyed here holds no callbacks.
+void Transport::forgetQueue()
+{
+    mQueue.clear();
+    mQueuedBytes = 0;
+    mIsFull = false;
+    mLoss.reset();
+}
+
+void Transport::openLink(const LinkFactory& makeLink, milliseconds patience)
 {
     mReopenAt = Clock::TimePoint::max();
+    mServeAt = Clock::TimePoint::min();
     mLink = makeLink(*this);
-    mLink->open();
+    mLink->open(patience);
     {
         const std::lock_guard lock(mMutex);
         if (mLinkPhase == LinkPhase::Opening) {
@@ -181,40 +196,47 @@ std::optional<std::string> Transport::control(std::string command)
 {
     auto item = std::make_unique<Command>();
     item->text = std::move(command);
-    std::future<std::optional<std::string>> answer = item->answer.get_future();
+    std::future<std::string> answer = item->answer.get_future();
     {
         std::unique_lock lock(mMutex);
         if (mState != State::Open || mLinkPhase != LinkPhase::Up || isDeliveryThread()) {
             return std::nullopt;
         }
-        queue(lock, std::move(item));
+        mQueue.emplace_back(std::move(item));
+        wake(lock);
+    }
+    if (answer.wait_for(kLongestCommand) != std::future_status::ready) {
+        zorLogW(kTag, "no answer to a command to the simulation");
+        return std::nullopt;
     }
     try {
         return answer.get();
     } catch (const std::future_error&) {
-        return std::nullopt; // dropped: the transport was closed meanwhile
+        return std::nullopt; // dropped: the link was lost or closed meanwhile
     }
 }
 
-void Transport::received(MessagePtr message)
+bool Transport::received(MessagePtr message)
 {
+    const size_t size = Message::of(*message).memoryUse();
     std::unique_lock lock(mMutex);
-    queue(lock, Incoming{std::move(message)});
+    mQueue.emplace_back(Incoming{std::move(message)});
+    mQueuedBytes += size;
+    mIsFull = mIsFull || mQueuedBytes > kMostQueuedBytes;
+    const bool hasRoom = !mIsFull;
+    wake(lock);
+    return hasRoom;
 }
 
 void Transport::lost(milliseconds retryAfter)
 {
     std::unique_lock lock(mMutex);
     // From here on requests are refused, so that those in the queue before the loss are all that it concerns.
+    // It takes no memory to tell it: that may be what the link has none of.
     if (std::exchange(mLinkPhase, LinkPhase::Down) != LinkPhase::Down) {
-        queue(lock, Loss{retryAfter});
+        mLoss = retryAfter;
+        wake(lock);
     }
-}
-
-void Transport::queue(std::unique_lock<std::mutex>& lock, Item item)
-{
-    mQueue.push_back(std::move(item));
-    wake(lock);
 }
 
 /// Gives the lock back and wakes the delivery thread, if that sleeps.

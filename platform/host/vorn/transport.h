@@ -4,8 +4,8 @@
 #include "link.h"
 #include "pending_table.h"
 
+#include <atomic>
 #include <condition_variable>
-#include <future>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -46,7 +46,7 @@ public:
     void unregisterAllIndications();
 
     /// Passes a command to the simulation behind the link and waits for its answer; nothing when there is
-    /// none to be had. Not for callbacks.
+    /// none to be had, or none within ten seconds. Not for callbacks.
     std::optional<std::string> control(std::string command);
 
 private:
@@ -65,15 +65,12 @@ private:
     struct Incoming {
         MessagePtr message;
     };
-    struct Loss {
-        std::chrono::milliseconds retryAfter;
-    };
     struct Command {
         std::string text;
-        std::promise<std::optional<std::string>> answer;
+        ControlAnswer answer;
     };
     using CommandPtr = std::unique_ptr<Command>; ///< seldom used, so not to make every item as large
-    using Item = std::variant<Outgoing, Incoming, Loss, CommandPtr>;
+    using Item = std::variant<Outgoing, Incoming, CommandPtr>;
 
     struct Indication {
         vorn_msg_cb callback;
@@ -83,42 +80,49 @@ private:
 
     static IndicationKey keyOf(uint8_t slot, uint16_t messageId);
 
-    void received(MessagePtr message) override;
+    bool received(MessagePtr message) override;
     void lost(std::chrono::milliseconds retryAfter) override;
 
     bool isDeliveryThread() const;
     void waitForSettledState(std::unique_lock<std::mutex>& lock);
-    void openLink(const LinkFactory& makeLink);
-    void queue(std::unique_lock<std::mutex>& lock, Item item);
+    void openLink(const LinkFactory& makeLink, std::chrono::milliseconds patience);
+    void forgetQueue();
     void wake(std::unique_lock<std::mutex>& lock);
     void waitForIndication(std::unique_lock<std::mutex>& lock, std::optional<IndicationKey> key);
 
     // The delivery thread.
     void run();
+    void serve();
     void waitForWork(std::unique_lock<std::mutex>& lock);
     void deliverBatch();
     void handle(Outgoing& request);
     void handle(Incoming& message);
-    void handle(Loss& loss);
     void handle(CommandPtr& command);
+    void handleLoss(std::chrono::milliseconds retryAfter);
     void deliverAnswer(vorn_msg_t& answer);
     void deliverIndication(vorn_msg_t& indication);
-    void serveLink();
+    Clock::TimePoint nextDeadline() const;
+    void meetDeadlines();
+    void serveLink(Clock::TimePoint now);
     void reopenLink(Clock::TimePoint now);
-    void answerOverdue();
+    bool tryToReopenLink();
+    void answerOverdue(Clock::TimePoint now);
     void answerAll(uint32_t result);
     void tearDown();
 
     std::mutex mMutex; ///< guards everything down to the delivery thread's own
     std::condition_variable mStateChanged;
-    State mState = State::Closed;
+    std::atomic<State> mState = State::Closed; ///< the delivery thread also looks at it without the mutex
     std::thread mThread;
     std::thread::id mDeliveryThread;
     LinkPhase mLinkPhase = LinkPhase::Down;
     std::chrono::milliseconds mTimeout{};
     PendingTable mPending;
 
-    std::vector<Item> mQueue; ///< for the delivery thread, in arrival order
+    std::vector<Item> mQueue;                       ///< for the delivery thread, in arrival order
+    size_t mQueuedBytes = 0;                        ///< the memory of what was received among it
+    bool mIsFull = false;                           ///< and the link has been told
+    std::optional<std::chrono::milliseconds> mLoss; ///< the link was lost after all that is in the queue
     std::condition_variable mWake;
     bool mSleeping = false; ///< the delivery thread waits and has not been woken
 
@@ -130,6 +134,7 @@ private:
     // The delivery thread's own, or the opener's before there is that thread.
     std::unique_ptr<Link> mLink;
     std::vector<Item> mBatch;
+    Clock::TimePoint mServeAt = Clock::TimePoint::min(); ///< no deadline is earlier
     Clock::TimePoint mReopenAt = Clock::TimePoint::max();
     std::chrono::milliseconds mBackOff{};
 };

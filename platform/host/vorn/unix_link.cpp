@@ -47,7 +47,7 @@ namespace {
 constexpr const char* kTag = "vorn";
 
 constexpr std::chrono::milliseconds kFirstRetry{50};
-constexpr std::chrono::seconds kLongestCommand{10};
+constexpr std::chrono::milliseconds kBusyRetry{10};
 
 } // namespace
 
@@ -65,19 +65,44 @@ UnixLink::~UnixLink()
     mAll.links.erase(this);
 }
 
-void UnixLink::open()
+void UnixLink::open(std::chrono::milliseconds patience)
+{
+    const auto limit = std::chrono::steady_clock::now() + patience;
+    while (!tryToOpen()) {
+        if (std::chrono::steady_clock::now() >= limit) {
+            throw LinkError("the modem at unix:" + mPath + " takes no connection");
+        }
+        std::this_thread::sleep_for(kBusyRetry);
+    }
+}
+
+/// False when the modem has no room now. Nothing here waits: the end of the process needs the lock.
+bool UnixLink::tryToOpen()
 {
     const std::lock_guard all(mAll.mutex);
     if (mAll.isOver) {
         throw LinkError("the process ends");
     }
     mContext = std::make_unique<asio::io_context>(1);
-    Socket socket(*mContext);
+    Socket socket(*mContext, asio::local::stream_protocol());
     try {
-        socket.connect(asio::local::stream_protocol::endpoint(mPath));
+        if (!connectNow(socket, mPath)) {
+            return false;
+        }
     } catch (const asio::system_error& error) {
         throw LinkError("no modem at unix:" + mPath + ": " + error.code().message());
     }
+    try {
+        start(std::move(socket));
+    } catch (const std::exception&) {
+        stop();
+        throw;
+    }
+    return true;
+}
+
+void UnixLink::start(Socket socket)
+{
     ConnectionEvents& events = *this;
     mConnection = std::make_shared<Connection>(std::move(socket), events);
     {
@@ -85,7 +110,17 @@ void UnixLink::open()
         mIsUp = true;
     }
     mConnection->start();
-    mThread = std::thread([context = mContext.get()] { context->run(); });
+    mThread = std::thread([this] { run(); });
+}
+
+/// The connection's thread. What it can't do, for want of memory most likely, costs the link and nothing else.
+void UnixLink::run()
+{
+    try {
+        mContext->run();
+    } catch (const std::exception& error) {
+        closed(*mConnection, error.what());
+    }
 }
 
 void UnixLink::close()
@@ -103,7 +138,7 @@ void UnixLink::stop()
         const std::lock_guard lock(mMutex);
         mPosted.clear();
         mIsUp = false;
-        mAnswered.notify_all();
+        mCommands.clear();
     }
     mContext->stop();
     if (mThread.joinable()) {
@@ -119,17 +154,26 @@ void UnixLink::send(const vorn_msg_t& request)
     post(request);
 }
 
-std::optional<std::string> UnixLink::control(const std::string& command)
+void UnixLink::resume()
 {
-    std::unique_lock lock(mMutex);
+    if (mContext) {
+        asio::post(*mContext, [this] { mConnection->resume(); });
+    }
+}
+
+void UnixLink::control(const std::string& command, ControlAnswer answer)
+{
+    const std::lock_guard lock(mMutex);
+    if (!mIsUp) {
+        return;
+    }
     const MessagePtr message = toMessage({++mCommandNumber, command});
     if (!message) {
-        return R"({"ok": false, "error": "the command is too long"})";
+        answer.set_value(R"({"ok": false, "error": "the command is too long"})");
+        return;
     }
+    mCommands.emplace(mCommandNumber, std::move(answer));
     post(*message);
-    mAnswer.reset();
-    mAnswered.wait_for(lock, kLongestCommand, [this] { return mAnswer || !mIsUp; });
-    return mAnswer ? std::optional(std::move(mAnswer->text)) : std::nullopt;
 }
 
 /// Hands a message to the connection's thread, which fetches all that has gathered when its turn comes.
@@ -155,17 +199,18 @@ void UnixLink::sendPosted()
     mConnection->send(frames);
 }
 
-void UnixLink::received(Connection& /*connection*/, MessagePtr message)
+void UnixLink::received(Connection& connection, MessagePtr message)
 {
     if (!isCommand(*message)) {
-        mEvents.received(std::move(message));
+        if (!mEvents.received(std::move(message))) {
+            connection.pause();
+        }
         return;
     }
     CommandMessage answer = commandFrom(*message);
     const std::lock_guard lock(mMutex);
-    if (answer.number == mCommandNumber) {
-        mAnswer = std::move(answer);
-        mAnswered.notify_all();
+    if (auto command = mCommands.extract(answer.number)) {
+        command.mapped().set_value(std::move(answer.text));
     }
 }
 
@@ -175,7 +220,7 @@ void UnixLink::closed(Connection& /*connection*/, const std::string& reason)
     {
         const std::lock_guard lock(mMutex);
         mIsUp = false;
-        mAnswered.notify_all();
+        mCommands.clear();
     }
     mEvents.lost(kFirstRetry);
 }

@@ -5,7 +5,8 @@
 #include "connection.h"
 #include "link.h"
 
-#include <condition_variable>
+#include <chrono>
+#include <map>
 #include <mutex>
 #include <thread>
 
@@ -22,15 +23,19 @@ public:
     UnixLink(const UnixLink&) = delete;
     UnixLink& operator=(const UnixLink&) = delete;
 
-    void open() override;
+    void open(std::chrono::milliseconds patience) override;
     void close() override;
     void send(const vorn_msg_t& request) override;
-    std::optional<std::string> control(const std::string& command) override;
+    void resume() override;
+    void control(const std::string& command, ControlAnswer answer) override;
 
 private:
     void received(Connection& connection, MessagePtr message) override;
     void closed(Connection& connection, const std::string& reason) override;
+    bool tryToOpen();
+    void start(Socket socket);
     void stop();
+    void run();
     void post(const vorn_msg_t& message);
     void sendPosted();
 
@@ -46,10 +51,9 @@ private:
 
     std::mutex mMutex;            ///< guards the rest
     std::vector<uint8_t> mPosted; ///< frames for the connection's thread
-    std::condition_variable mAnswered;
     bool mIsUp = false;
-    uint32_t mCommandNumber = 0; ///< of the last command
-    std::optional<CommandMessage> mAnswer;
+    uint32_t mCommandNumber = 0;                 ///< of the last command
+    std::map<uint32_t, ControlAnswer> mCommands; ///< not answered yet, by number
 };
 
 } // namespace host
