@@ -43,7 +43,7 @@ State& state()
 void forgetOtherThreads()
 {
     new (&state().mutex) std::mutex;
-    state().waiters.clear();
+    state().waiters = nullptr;
 }
 
 Clock::TimePoint runningTime(const State& clock)
