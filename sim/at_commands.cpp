@@ -118,7 +118,7 @@ AtReply setFunctionality(const AtCall& call)
     }
     AtReply reply;
     reply.restart = call.parameters.size() > 1 && call.parameters[1].text == "1";
-    call.slot.at["+CFUN"] = {level};
+    call.slot.setLevel(level);
     return reply;
 }
 
@@ -127,36 +127,40 @@ AtReply testFunctionality(const AtCall&)
     return {AtResult::Ok, {"+CFUN: (0,1,4),(0-1)"}};
 }
 
-/// What the query may tell by now.
-std::string queryableMode(const Slot& slot)
+/// What the queries may tell by now.
+const RadioMode& knownMode(const Slot& slot)
 {
-    return slot.now < slot.modeKnownFrom ? slot.modeBefore : atValue(slot, "+EFUN");
+    return slot.now < slot.modeKnownFrom ? slot.modeBefore : slot.mode;
 }
 
 /// +EFUN=<fun>: 0 off, 1 to 3 on for some or all slots. It takes the modem its time.
 AtReply setSlotsOn(const AtCall& call)
 {
-    Slot& slot = call.slot;
-    const std::string before = queryableMode(slot);
-    AtReply reply = setStored(call);
-    if (reply.result == AtResult::Ok) {
-        slot.modeBefore = before;
-        slot.modeKnownFrom = slot.now + slot.modeChangeTime;
+    if (!parametersFit(call)) {
+        return {AtResult::BadParameters};
     }
-    return reply;
+    Slot& slot = call.slot;
+    const std::string slotsOn = std::to_string(toInteger(call.parameters.front().text).value_or(0));
+    const RadioMode before = knownMode(slot);
+    if (slotsOn != "0") {
+        slot.setLevel("1");
+    } else if (slot.radioOn()) {
+        slot.setLevel("4");
+    }
+    slot.mode.slotsOn = slotsOn;
+    slot.modeBefore = before;
+    slot.modeKnownFrom = slot.now + slot.modeChangeTime;
+    return {};
 }
 
 AtReply querySlotsOn(const AtCall& call)
 {
-    return {AtResult::Ok, {"+EFUN: " + queryableMode(call.slot)}};
+    return {AtResult::Ok, {"+EFUN: " + knownMode(call.slot).slotsOn}};
 }
 
-/// A modem whose slots are off has its radio off, whatever level it was set to.
 AtReply queryFunctionality(const AtCall& call)
 {
-    const std::string level = atValue(call.slot, "+CFUN");
-    const bool slotsOff = level == "1" && queryableMode(call.slot) == "0";
-    return {AtResult::Ok, {"+CFUN: " + (slotsOff ? "4" : level)}};
+    return {AtResult::Ok, {"+CFUN: " + knownMode(call.slot).level}};
 }
 
 AtReply getImsi(const AtCall& call)
@@ -183,9 +187,8 @@ constexpr AtCommand kGeneralCommands[] = {
      .set = setFunctionality,
      .query = queryFunctionality,
      .test = testFunctionality,
-     .rules = kFunctionality,
-     .initial = "1"},
-    {.name = "+EFUN", .set = setSlotsOn, .query = querySlotsOn, .rules = kOperationMode, .initial = "3"},
+     .rules = kFunctionality},
+    {.name = "+EFUN", .set = setSlotsOn, .query = querySlotsOn, .rules = kOperationMode},
     {.name = "+CEMODE",
      .set = setStored,
      .query = queryStored,

@@ -35,7 +35,7 @@ Answer getOperationMode(Slot& slot, const Request&)
 
 Answer setOperationMode(Slot& slot, const Request& request)
 {
-    slot.at["+CFUN"] = {request.fields.number<uint8_t>(256) == 1 ? "1" : "4"};
+    slot.setLevel(request.fields.number<uint8_t>(256) == 1 ? "1" : "4");
     return {};
 }
 

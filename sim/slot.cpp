@@ -36,9 +36,13 @@ void applyAtCommands(const JsonNode& node, Slot& slot)
 
 } // namespace
 
-bool Slot::radioOn() const
+void Slot::setLevel(std::string level)
 {
-    return atValue(*this, "+CFUN") == "1" && atValue(*this, "+EFUN") != "0";
+    if (level != mode.level) {
+        mode.slotsOn = level == "1" ? RadioMode().slotsOn : "0";
+    }
+    mode.level = std::move(level);
+    modeKnownFrom = {};
 }
 
 const Cell* Slot::camped() const
@@ -103,6 +107,9 @@ nlohmann::json slotToJson(const Slot& slot)
     for (const auto& [key, data] : slot.nv) {
         nv.push_back({{"id", key.first}, {"index", key.second}, {"length", data.size()}});
     }
+    AtValues at = slot.at;
+    at["+CFUN"] = {slot.mode.level};
+    at["+EFUN"] = {slot.mode.slotsOn};
     const auto cell = [](const Cell* shown) {
         return shown != nullptr ? cellToJson(*shown) : nlohmann::json();
     };
@@ -112,7 +119,7 @@ nlohmann::json slotToJson(const Slot& slot)
             {"neighbours", neighbours},
             {"simPresent", slot.card.present},
             {"nv", nv},
-            {"at", slot.at},
+            {"at", at},
             {"settings", slot.settings.toJson()}};
 }
 

@@ -21,6 +21,12 @@ namespace sim {
 /// command table.
 using AtValues = std::map<std::string, std::vector<std::string>, std::less<>>;
 
+/// What +CFUN and +EFUN tell of the radio. Each moves the other.
+struct RadioMode {
+    std::string level = "1";   ///< +CFUN: 0 minimum, 1 full, 4 radio off
+    std::string slotsOn = "3"; ///< +EFUN: 1 to 3 at level 1, else 0
+};
+
 struct Slot {
     int number = 0;
     Plmn plmn;
@@ -36,13 +42,17 @@ struct Slot {
     std::chrono::steady_clock::time_point now; ///< when the request came that is being carried out
     std::chrono::milliseconds modeChangeTime{
         0}; ///< how long AT+EFUN? still tells the mode before the last AT+EFUN=
-    std::string modeBefore;
+    RadioMode mode;
+    RadioMode modeBefore;
     std::chrono::steady_clock::time_point modeKnownFrom;
     std::map<uint16_t, uint32_t> indicationsSent; ///< how often, by message id
     uint32_t metricsReadings = 0;
     uint32_t previousMcc = 0; ///< of the network it was registered in before; 0: none
 
-    bool radioOn() const;
+    bool radioOn() const { return mode.level == "1"; }
+
+    /// Moves to a level at once.
+    void setLevel(std::string level);
 
     /// The cell it camps on; null without service.
     const Cell* camped() const;

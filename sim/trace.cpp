@@ -1,19 +1,55 @@
 #include "sim/trace.h"
 
+#include "host/quiet_write.h"
 #include "value.h"
+#include "zor/log.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
+#include <cerrno>
 #include <chrono>
 #include <cstdlib>
 #include <ctime>
-#include <iostream>
+#include <fcntl.h>
 #include <stdexcept>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
 
 namespace sim {
 namespace {
 
 using nlohmann::ordered_json;
+
+constexpr const char* kTraceTag = "trace";
+constexpr const char* kStandardError = "-";
+
+constexpr uint16_t kAtMessage = 3;
+constexpr uint16_t kAtAnswer = 0x8100;
+
+/// Of the commands whose answers name them, those that tell who the subscriber or the device is.
+constexpr std::array<std::string_view, 4> kIdentities = {"+CCID:", "+CNUM:", "+EGMR:", "+ICCID:"};
+
+/// Whether an answer to an AT command may tell an identity. IMSI and IMEI come on a line without the name of a
+/// command (3GPP TS 27.007, +CIMI and +CGSN), and so may what is cut off: whatever is no line of another kind
+/// counts, therefore.
+bool tellsIdentity(std::string_view answer)
+{
+    while (!answer.empty()) {
+        const size_t end = std::min(answer.find_first_of("\r\n"), answer.size());
+        const std::string_view line = answer.substr(0, end);
+        answer.remove_prefix(std::min(end + 1, answer.size()));
+        const bool isEcho = line.size() >= 2 && (line[0] | 0x20) == 'a' && (line[1] | 0x20) == 't';
+        const bool isVerdict = line.empty() || line == "OK" || line == "ERROR";
+        const bool isNamed = line.starts_with('+') && line.find(':') != std::string_view::npos;
+        const auto names = [&](std::string_view name) { return line.starts_with(name); };
+        if (!isEcho && !isVerdict && (!isNamed || std::ranges::any_of(kIdentities, names))) {
+            return true;
+        }
+    }
+    return false;
+}
 
 /// A field that the catalogue does not have here: its bytes are all that is known.
 FieldSpec unknownField(const vorn_msg_t& message, uint16_t tag)
@@ -82,6 +118,18 @@ const MessageSpec* rowOf(const vorn_msg_t& message, bool isRequest)
     return best;
 }
 
+/// Whether a field may be shown by its length only.
+bool isPrivate(const vorn_msg_t& message, const FieldSpec& spec, const Value& value, bool isRequest)
+{
+    if (isRequest || message.hdr.msg_id != kAtMessage || spec.tag != kAtAnswer) {
+        return spec.isPrivate;
+    }
+    const auto* bytes = std::get_if<Bytes>(&value);
+    return bytes == nullptr ||
+           tellsIdentity({reinterpret_cast<const char*>(bytes->data()),
+                          static_cast<size_t>(std::ranges::find(*bytes, 0) - bytes->begin())});
+}
+
 ordered_json fieldsToJson(const vorn_msg_t& message, const MessageSpec* row, const TraceOptions& options,
                           bool isRequest)
 {
@@ -100,8 +148,9 @@ ordered_json fieldsToJson(const vorn_msg_t& message, const MessageSpec* row, con
     ordered_json fields = ordered_json::object();
     for (FieldSpec& spec : specs) {
         if (has(message, spec.tag)) {
-            spec.isPrivate = spec.isPrivate && !options.showPrivate;
-            fields[spec.name] = valueToJson(valueOf(message, spec.tag), spec);
+            const Value value = valueOf(message, spec.tag);
+            spec.isPrivate = !options.showPrivate && isPrivate(message, spec, value, isRequest);
+            fields[spec.name] = valueToJson(value, spec);
         }
     }
     return fields;
@@ -147,16 +196,37 @@ bool isSet(const char* variable, std::string_view value)
     return text != nullptr && text == value;
 }
 
+int openFile(const TraceOptions& options)
+{
+    // Without waiting: a pipe by name may have no reader, or one that does not read.
+    constexpr int kFlags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+    const int descriptor = ::open(options.file.c_str(), kFlags, S_IRUSR | S_IWUSR);
+    if (descriptor < 0) {
+        const int error = errno;
+        throw std::runtime_error("can't write the trace " + options.file + ": " +
+                                 (error == ENXIO ? "it is a pipe that nobody reads, or a socket"
+                                                 : std::generic_category().message(error)));
+    }
+    // A file that was there stays as its owner made it.
+    struct stat status {};
+    const bool isForOthers = fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+                             (status.st_mode & (S_IRGRP | S_IROTH)) != 0;
+    if (isForOthers && options.showPrivate) {
+        zorLogW(kTraceTag, "others may read %s, which shows private contents", options.file.c_str());
+    }
+    return descriptor;
+}
+
 } // namespace
 
 Trace::Trace(const TraceOptions& options)
-    : mOptions(options), mOut(options.file == "-" ? std::cerr : static_cast<std::ostream&>(mFile))
+    : mOptions(options), mDescriptor(options.file == kStandardError ? STDERR_FILENO : openFile(options))
+{}
+
+Trace::~Trace()
 {
-    if (options.file != "-") {
-        mFile.open(options.file, std::ios::app);
-        if (!mFile) {
-            throw std::runtime_error("can't write the trace " + options.file);
-        }
+    if (mDescriptor != STDERR_FILENO) {
+        ::close(mDescriptor);
     }
 }
 
@@ -172,6 +242,9 @@ std::unique_ptr<Trace> Trace::fromEnvironment()
 
 void Trace::note(Direction direction, const vorn_msg_t& message)
 {
+    if (mHasEnded) {
+        return;
+    }
     const bool isRequest = direction == Direction::ToModem;
     const MessageSpec* row = rowOf(message, isRequest);
     const bool isIndication = !isRequest && message.hdr.tx_id == 0;
@@ -187,9 +260,17 @@ void Trace::note(Direction direction, const vorn_msg_t& message)
     line["message"] = row != nullptr ? row->name : "message" + std::to_string(message.hdr.msg_id);
     line["fields"] = fieldsToJson(message, row, mOptions, isRequest);
 
-    const std::string text = mOptions.json ? dump(line) : toText(line);
-    const std::lock_guard lock(mMutex);
-    mOut << text << '\n' << std::flush;
+    const std::string text = (mOptions.json ? dump(line) : toText(line)) + '\n';
+    int error = 0;
+    {
+        const std::lock_guard lock(mMutex);
+        error = mHasEnded ? 0 : host::writeQuietly(mDescriptor, text);
+        mHasEnded = mHasEnded || error != 0;
+    }
+    if (error != 0) {
+        zorLogW(kTraceTag, "the trace %s ends: %s", mOptions.file.c_str(),
+                std::generic_category().message(error).c_str());
+    }
 }
 
 } // namespace sim

@@ -52,12 +52,14 @@ RADIO_API int radioSetAntBlockState(int state, void* userData, RadioRequestCallb
 /// Switches forced antenna selection for one radio access technology.
 ///
 /// @param rat       0 to 3, sent as a message; 4 (NR), sent as an AT command; others are refused
-/// @param state     0: off, 1: on
+/// @param state     as the modem defines it: for rats 0 to 3 the low 8 bits of `state` + 1 are sent, for rat 4 the
+///                  number itself
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict; for rats 0 to 3 the record is null when that is a
-///                  failure, for rat 4 it is empty in any case where the modem answered the command
-/// @return 0 when handed to the modem; 1 for another rat, even without an initialised instance, or when
-/// refused otherwise
+/// @param callback  for rats 0 to 3 called once with the modem's verdict and, on success, an empty record. For rat 4
+///                  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
+///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
+/// @return 0 when handed to the modem; 1 for another rat, even without an initialised instance, or when refused
+///         otherwise
 RADIO_API int radioSetAntForceStateByRat(int rat, int state, void* userData, RadioRequestCallback callback);
 
 /// Blocks a band for the transmit path search.
@@ -79,8 +81,7 @@ RADIO_API int radiosetTxPathFilter(signed char rat, int band, int mode, void* us
 /// @param subband    not sent
 /// @param option     not sent
 /// @param userData   handed to `callback`
-/// @param callback   called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.txCarkit`; on the
-///                   modem library's delivery thread
+/// @param callback   called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.txCarkit`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetTxCarkit(int radioTech, int uiBand, int subband, int option, void* userData,
                                RadioRequestCallback callback);

@@ -31,13 +31,14 @@ enum RadioBandRat : int32_t {
 /// Added to a RadioBandRat: the bands in use instead of those that could be.
 inline constexpr int32_t kRadioCurrentBands = 0x10000;
 
-inline constexpr unsigned kRadioMaxBandBytes = 256; ///< bytes of the longest list of bands
+inline constexpr unsigned kRadioMaxBandBytes = 256; ///< that an answer holds
 
 /// Result of radioGetBandPrefer.
 struct RadioBandPrefer {
-    int32_t rat;                       ///< a RadioBandRat
-    int32_t current;                   ///< 1: the bands in use; 0: those that could be
-    uint32_t length;                   ///< bytes of `bands` that count
+    int32_t rat;     ///< a RadioBandRat
+    int32_t current; ///< 1: the bands in use were asked for; 0: those that could be. For CDMA
+                     ///< `bands` is those in use with both
+    uint32_t length; ///< bytes of `bands` that count
     uint8_t bands[kRadioMaxBandBytes]; ///< as the head of this file tells
 };
 
@@ -71,18 +72,21 @@ extern "C" {
 ///
 /// @param rat       a RadioBandRat; only its low 16 bits count
 /// @param bands     bytes as the head of this file tells; of GSM, UMTS and CDMA the first four count
-/// @param length    bytes, a multiple of 4. The command has room for `length` + 127 characters and is cut
-///                  there, which NR reaches above 112 bytes and LTE with many large numbers
+/// @param length    bytes, a multiple of 4 from 4 to 65404. The command has room for `length` + 127 characters and
+///                  is cut there without a word: RADIO_BAND_NR survives up to 112 bytes, RADIO_BAND_NR_SECOND up to
+///                  108, LTE up to 64 and, when its numbers are small, beyond
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the bands, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem; 1 when refused, as for null bands, any other length or another rat
+/// @return 0 when handed to the modem; 1 when refused, as for null bands, another rat or another length: 0, no
+///         multiple of 4, or more than 65407
 RADIO_API int radioSetBandPrefer(int rat, const unsigned char* bands, unsigned int length, void* userData,
                                  RadioRequestCallback callback);
 
 /// The bands of one radio access technology.
 ///
-/// @param rat       a RadioBandRat, with kRadioCurrentBands added for the bands in use; CDMA has only those
+/// @param rat       a RadioBandRat, with kRadioCurrentBands added for the bands in use. Of CDMA the modem tells only
+///                  those: they come without the flag, too, and then with a `current` of 0
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandPrefer`; with RADIO_APIS_FAILURE and a
 ///                  record without bands when the answer has none that can be read; or with the modem's failure
@@ -99,26 +103,27 @@ RADIO_API int radioGetBandPrefer(int rat, void* userData, RadioRequestCallback c
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetAvailableBandModes(void* userData, RadioRequestCallback callback);
 
-/// The bands that the modem could use with one radio access technology, in the bits of user interfaces. For
-/// CDMA, whose side of the modem may be off, it is first switched on: world mode policy 0, then CDMA as the
-/// active technology. It stays on.
+/// The bands that the modem could use with one radio access technology, in the bits of user interfaces; for CDMA
+/// those in use. CDMA's side of the modem may be off, and is first switched on: world mode policy 0, then CDMA as
+/// the active technology. It stays on.
 ///
 /// @param nwType    RADIO_BAND_GSM, _UMTS, _CDMA, _LTE or _NR
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandInfo`; with RADIO_APIS_FAILURE and a
-///                  zeroed record when the answer can't be read or, for CDMA, a step failed; or with the
-///                  modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused, as for another nwType
+///                  zeroed record when the answer can't be read or, for CDMA, a step failed; or, but for CDMA, with
+///                  the modem's failure and no record
+/// @return 0 when handed to the modem, and for CDMA 0 once started, also when the modem then can't be reached; 1
+///         when refused, as for another nwType
 RADIO_API int radioGetBand(int nwType, void* userData, RadioRequestCallback callback);
 
-/// How many transmit paths a band has.
+/// How many transmit paths a band has. Takes two commands, of which the second one asks.
 ///
 /// @param radioTech  radio access technology, as the modem numbers them
 /// @param uiBand     the band
 /// @param subband    part of the band; logged, since the modem's answer is for the whole band
 /// @param userData   handed to `callback`
 /// @param callback   called once with RADIO_APIS_SUCCESS and `rsp.bandTxNumInfo`, or with RADIO_APIS_FAILURE
-///                   and a zeroed record when the modem refused or answered no number
+///                   and a zeroed record when the modem refused or the answer does not end in a number
 /// @return 0 once started, also when the modem then can't be reached
 RADIO_API int radioGetBandsTxNum(int radioTech, int uiBand, int subband, void* userData,
                                  RadioRequestCallback callback);

@@ -77,8 +77,8 @@ RADIO_API int radioSetQrxlvminCfg(const RadioQrxlvminCfgInfo& info, void* userDa
 /// @param rat       13: LTE, 20: NR
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.qrxlvmin`; with RADIO_APIS_FAILURE and a zeroed
-///                  record when the modem refused or the answer has another number of values; or with the
-///                  modem's failure and no record
+///                  record when the modem refused or the answer has another number of values, or other values
+///                  than numbers; or with the modem's failure and no record
 /// @return 0 when handed to the modem, 1 when refused, as for another rat
 RADIO_API int radioGetQrxlvminCfg(int rat, void* userData, RadioRequestCallback callback);
 

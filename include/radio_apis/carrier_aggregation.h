@@ -8,12 +8,12 @@
 
 /// Result of radioGetNrcaConfig and radioReadNRCAConfig.
 struct RadioNrcaConfig {
-    uint8_t nrcaState; ///< 0 off, 1 on
+    uint8_t nrcaState; ///< 0 off, 1 on; the low 8 bits of the modem's number
 };
 
 /// Result of radioGetBwpConfig.
 struct RadioBwpConfig {
-    uint8_t bwpState; ///< 0 off, 1 on
+    uint8_t bwpState; ///< 0 off, 1 on; the low 8 bits of the modem's number
 };
 
 /// Result of radioGetCaStatus.
@@ -93,8 +93,8 @@ RADIO_API int radioGetBwpConfig(void* userData, RadioRequestCallback callback);
 
 /// Sets the only band combinations that standalone NR may use.
 ///
-/// @param list      the band combinations as the modem writes them; of a long text the command's 255th
-///                  character is the last
+/// @param list      the band combinations as the modem writes them, at most 236 bytes: with more the command is cut
+///                  at its end without a word
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
@@ -110,7 +110,8 @@ RADIO_API int radioSetWhiteNSANRCAConfig(const char* list, void* userData, Radio
 
 /// Empties one of the lists.
 ///
-/// @param list      2: the only ones next to LTE; 4: the only ones of standalone NR; 5: those it may not use
+/// @param list      2: the only ones next to LTE; 4: the only ones of standalone NR; 5: those it may not use. Any
+///                  other number is sent, too
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
@@ -147,7 +148,8 @@ RADIO_API int radioReadDssConfig(void* userData, RadioRequestCallback callback);
 /// Sets the bands of user capabilities in 5G.
 ///
 /// @param lteBands  as the modem writes them
-/// @param nrBands   likewise
+/// @param nrBands   likewise. Both together at most 236 bytes: with more the command is cut at its end without a
+///                  word
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record

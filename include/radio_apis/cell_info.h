@@ -16,20 +16,21 @@ struct RadioLteCellInfo {
 /// A serving cell. The library passes the modem's words through as they are; the names tell what they stand
 /// for. Signal values are two's complement: cast to int32_t.
 struct RadioServingCell {
-    uint32_t failure;    ///< 1 when the modem reported that it could not answer; everything else is then zero
-    uint32_t rat;        ///< 4: LTE, 5: NR
-    uint32_t mcc;        ///< mobile country code of the PLMN (3GPP TS 23.003)
-    uint32_t mnc;        ///< mobile network code of the PLMN
-    uint32_t tac;        ///< tracking area code
-    uint32_t pci;        ///< physical cell identity
-    uint32_t arfcn;      ///< downlink EARFCN or NR-ARFCN
-    uint32_t cellIdLow;  ///< cell identity, low 32 bits
-    uint32_t cellIdHigh; ///< cell identity, bits above them (NR has 36)
-    uint32_t band;       ///< operating band
-    uint32_t rsrp;       ///< reference signal received power, dBm
-    uint32_t rsrq;       ///< reference signal received quality, dB
-    uint32_t sinr;       ///< signal to interference and noise ratio, dB
-    uint32_t rssi;       ///< received signal strength, dBm
+    uint32_t
+        failure; ///< 1 when the modem reported a failure; the others are what its answer carried all the same
+    uint32_t rat;           ///< 4: LTE, 5: NR
+    uint32_t mcc;           ///< mobile country code of the PLMN (3GPP TS 23.003)
+    uint32_t mnc;           ///< mobile network code of the PLMN
+    uint32_t tac;           ///< tracking area code
+    uint32_t pci;           ///< physical cell identity
+    uint32_t arfcn;         ///< downlink EARFCN or NR-ARFCN
+    uint32_t cellIdLow;     ///< cell identity, low 32 bits
+    uint32_t cellIdHigh;    ///< cell identity, bits above them (NR has 36)
+    uint32_t band;          ///< operating band
+    uint32_t rsrp;          ///< reference signal received power, dBm
+    uint32_t rsrq;          ///< reference signal received quality, dB
+    uint32_t sinr;          ///< signal to interference and noise ratio, dB
+    uint32_t rssi;          ///< received signal strength, dBm
     uint32_t dlBandwidth;   ///< downlink bandwidth, kHz
     uint32_t ulArfcn;       ///< uplink EARFCN or NR-ARFCN
     uint32_t ulBandwidth;   ///< uplink bandwidth, kHz
@@ -59,7 +60,8 @@ inline constexpr unsigned kRadioMaxNeighbourCells = 64; ///< that an answer hold
 /// Result of radioGetAllCellularCellInfo.
 struct RadioAllCellInfo {
     RadioServingCell serving; ///< the serving cell
-    uint32_t neighbourCount;  ///< at most 64; further neighbours of the modem's answer are left out
+    uint32_t
+        neighbourCount; ///< in an answer at most 64, the modem's first ones; in an event as the modem has it
     RadioNeighbourCell neighbours[kRadioMaxNeighbourCells]; ///< the first `neighbourCount` count
 };
 
@@ -70,14 +72,16 @@ struct RadioRrcStatus {
 
 extern "C" {
 
-/// Summary of the LTE cell. A failure of the modem is not told: all values are then zero.
+/// Summary of the LTE cell. A failure of the modem is not told: the record is what its answer carried all the same,
+/// and zero where that is nothing.
 ///
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.lteCellInfo`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetLteCellInfo(void* userData, RadioRequestCallback callback);
 
-/// State of the radio resource control. A failure of the modem is not told: the status is then 1.
+/// State of the radio resource control. A failure of the modem is not told: the status is then 1 unless its answer
+/// carried another one.
 ///
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.rrcStatus`
@@ -87,16 +91,16 @@ RADIO_API int radioGetRRCStatus(void* userData, RadioRequestCallback callback);
 /// The serving cell.
 ///
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.servingCellInfo`, whose `failure` tells of
-///                  the modem's failure
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.servingCellInfo`, whose
+///                  `failure` tells of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetServingCellularCellInfo(void* userData, RadioRequestCallback callback);
 
 /// The serving cell and its neighbours.
 ///
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.allCellInfo`, whose `serving.failure` tells
-///                  of the modem's failure
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.allCellInfo`, whose
+///                  `serving.failure` tells of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetAllCellularCellInfo(void* userData, RadioRequestCallback callback);
 

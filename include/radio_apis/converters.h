@@ -3,7 +3,7 @@
 ///
 /// Each reads the indication message (a vorn_msg_t), builds the event's record and calls `callback` once,
 /// before it returns, with the event, `userData`, the record and the record's size. What the message does not
-/// carry is zero. The record is valid during the call only. Without a message or a callback nothing is
+/// carry counts as zero. The record is valid during the call only. Without a message or a callback nothing is
 /// delivered. The int argument is not used. Each may be called from any thread.
 #pragma once
 

@@ -28,9 +28,9 @@ extern "C" {
 
 /// Tells the modem whether the screen is on.
 ///
-/// @param screenState  0: off, 1: on; passed through
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
+/// @param screenState  as the modem defines it, passed through
+/// @param userData     handed to `callback`
+/// @param callback     called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSendScreenState(int screenState, void* userData, RadioRequestCallback callback);
 
@@ -108,7 +108,7 @@ RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* use
 /// @param deviceStateExt  as the modem defines it, passed through
 /// @param userData        handed to `callback`
 /// @param callback        called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                        `rsp.deviceStateExt`; on the modem library's delivery thread
+///                        `rsp.deviceStateExt`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSendDeviceStateExt(int deviceStateExt, void* userData, RadioRequestCallback callback);
 
@@ -116,8 +116,7 @@ RADIO_API int radioSendDeviceStateExt(int deviceStateExt, void* userData, RadioR
 ///
 /// @param state     as the modem defines it; its low 8 bits are sent
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
-///                  library's delivery thread
+/// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImbState(int state, void* userData, RadioRequestCallback callback);
 
@@ -132,7 +131,8 @@ RADIO_API int radioUpdateFoldScreenStatus(int state, void* userData, RadioReques
 
 /// Sets the software version number of the device's identity (IMEISV, 3GPP TS 23.003).
 ///
-/// @param svn       0 to 99 for a valid identity; sent as two hexadecimal digits or more
+/// @param svn       sent in hexadecimal, with two digits or more: 10 is sent as "0a". An identity has two decimal
+///                  digits there, so that 42 is to be given as 0x42
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record

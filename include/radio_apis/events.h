@@ -3,6 +3,13 @@
 ///
 /// Two things are needed: the modem must be told to send an indication (radioRegisterVsEvent,
 /// radioRegisterRadioEvent), and somebody must listen for the event it becomes (registerRadioEvent).
+///
+/// What is switched on is remembered twice: by the instance, for all its threads, and by the message library.
+/// radioApisDeinit, and radioApisReleaseService of any instance, make the message library forget the subscriptions of
+/// all instances. The instances that stay do not notice: what was on counts as on, and switching it on again
+/// registers nothing and returns 0. To get it back, call radioApisInit of that instance, which makes the instance
+/// forget, too, and then switch on again. Whichever thread calls radioApisInit ends the instance's subscriptions for
+/// all of them.
 #pragma once
 
 #include "radio_apis/blob.h"
@@ -11,7 +18,7 @@
 
 #include <cstdint>
 
-/// The events. 401 to 499 come from the vendor client, 10000 to 10999 from the standard client.
+/// The events. 401 to 499 are raised by the vendor client, 10000 to 10999 by the standard client.
 enum RADIO_EVENT_TYPE : int32_t {
     RADIO_EVENT_NONE = 0,
     RADIO_EVENT_NEC_IND = 403,
@@ -30,11 +37,11 @@ enum RADIO_EVENT_TYPE : int32_t {
     RADIO_EVENT_OLOG_IND = 430,
     RADIO_EVENT_RF_ICC_CLAT_INFO_IND = 433,
     RADIO_EVENT_RF_ICC_TX_SHARING_IND = 434,
-    RADIO_EVENT_SINGLE_SIM_CHANGE_IND = 435,
+    RADIO_EVENT_SINGLE_SIM_CHANGE_IND = 435, ///< never subscribed: comes only if somebody else registers it
     RADIO_EVENT_SML_STATUS_IND = 436,
     RADIO_EVENT_RLK_STATUS_IND = 437,
     RADIO_EVENT_ALERT_EVENT_IND = 438,
-    RADIO_EVENT_IMS_AUDIO_QUALITY_IND = 439,
+    RADIO_EVENT_IMS_AUDIO_QUALITY_IND = 439, ///< never comes
     RADIO_EVENT_VODATA_IND = 440,
     RADIO_EVENT_ALL_CELL_INFO_IND = 441,
     RADIO_EVENT_CALL_STATE_CHANGE_IND = 442,
@@ -44,12 +51,12 @@ enum RADIO_EVENT_TYPE : int32_t {
     RADIO_EVENT_RF_ICC_EVENT_IND = 446,
     RADIO_EVENT_NW_ETX_POWER = 10001,
     RADIO_EVENT_MSIM_SUB_MODE = 10002,
-    RADIO_EVENT_FREQ_HOPPING = 10003,
+    RADIO_EVENT_FREQ_HOPPING = 10003, ///< never comes
     RADIO_EVENT_DATA_IFUP_PACKET_ROUTE = 10004,
     RADIO_EVENT_CALL_RTP_SESSION_MLC = 10005
 };
 
-/// Receives one event, on the modem library's delivery thread.
+/// Receives one event, on the modem library's delivery thread. It must not throw.
 ///
 /// @param event     which event
 /// @param userData  the pointer given at registration
@@ -63,8 +70,8 @@ struct RadioEventSwitch {
     uint8_t ind;   ///< 0: the modem need not send the indication; otherwise it shall
 };
 
-/// The switchable vendor indications. All others of the vendor client are switched on by the first
-/// subscription.
+/// The switchable vendor indications. The first call of radioRegisterVsEvent switches on all others of the vendor
+/// client, whatever its switches say, but for RADIO_EVENT_SINGLE_SIM_CHANGE_IND.
 struct RegVsEvtType {
     RadioEventSwitch nec;              ///< RADIO_EVENT_NEC_IND
     RadioEventSwitch test;             ///< RADIO_EVENT_TEST_IND
@@ -77,7 +84,9 @@ struct RegVsEvtType {
 };
 static_assert(sizeof(RegVsEvtType) == 16);
 
-/// The switchable standard indications. The packet route and RTP session indications are always switched on.
+/// The switchable standard indications. Each call of radioRegisterRadioEvent switches on those of
+/// RADIO_EVENT_DATA_IFUP_PACKET_ROUTE and RADIO_EVENT_CALL_RTP_SESSION_MLC, whatever its switches say, and also when
+/// they are on already.
 struct RegRadioEvtType {
     RadioEventSwitch nwEtxPower;  ///< RADIO_EVENT_NW_ETX_POWER
     RadioEventSwitch msimSubMode; ///< RADIO_EVENT_MSIM_SUB_MODE
@@ -86,13 +95,14 @@ static_assert(sizeof(RegRadioEvtType) == 4);
 
 /// Record of RADIO_EVENT_NW_ETX_POWER.
 struct RadioNwEtxPower {
-    int32_t txPower; ///< transmit power in steps of 100, as derived from the modem's eighths
+    int32_t
+        txPower; ///< the modem's value, in eighths, as whole units times 100; what is left over is dropped
 };
 static_assert(sizeof(RadioNwEtxPower) == 4);
 
 /// Record of RADIO_EVENT_MSIM_SUB_MODE.
 struct RadioMsimSubMode {
-    int32_t subMode; ///< the modem's sub-mode plus 2
+    int32_t subMode; ///< the modem's sub-mode plus 2; 2 when it sent none
     int32_t state;   ///< 2 when the modem reports the mode as active, otherwise 1
 };
 static_assert(sizeof(RadioMsimSubMode) == 8);
@@ -242,11 +252,13 @@ struct RadioStateEvent {
 };
 static_assert(sizeof(RadioStateEvent) == 8);
 
-/// Record of RADIO_EVENT_ALL_CELL_INFO_IND: the cells of up to two subscriptions, as the modem sends them.
+/// Record of RADIO_EVENT_ALL_CELL_INFO_IND: the cells of up to two subscriptions, the modem's block as it is. The
+/// library does not check it: before they are used, `count` must be cut to 2, and the `neighbourCount` of each entry
+/// to kRadioMaxNeighbourCells.
 struct RadioAllCellInfoEvent {
-    uint32_t count;            ///< of `cells`
+    uint32_t count;            ///< of `cells`; may be more than there are
     uint32_t reserved;         ///< without meaning
-    RadioAllCellInfo cells[2]; ///< one entry for each subscription
+    RadioAllCellInfo cells[2]; ///< one entry for each subscription; its `neighbourCount` may be above 64
 };
 static_assert(sizeof(RadioAllCellInfoEvent) == 4280);
 
@@ -311,18 +323,22 @@ extern "C" {
 ///
 /// @param event     401 to 499 or 10000 to 10999
 /// @param userData  handed to each call of `callback`
-/// @param callback  called once per event; it may register further listeners
+/// @param callback  called once per event; it may register further listeners. Null is skipped
 /// @return 0 when registered, also when the same event, user data and callback were registered before (the
-///         callback is then still called once per event); 1 for any other event or when the instance is not
-///         initialised
+///         callback is then still called once per event); 1 for any other event, when the instance is not
+///         initialised, or without memory
 RADIO_API int registerRadioEvent(RADIO_EVENT_TYPE event, void* userData, RadioEventCallback callback);
 
 /// Switches vendor indications of the calling thread's instance on and off.
 ///
-/// @param switches  what to switch; a switch that already has the wanted state does nothing
+/// @param switches  what to switch; a switch that has the wanted state, as the instance remembers it, does nothing.
+///                  The head of this file tells when that is not what the message library has. The wish is
+///                  remembered also when it failed: to try again, switch the other way first, or call radioApisInit
 /// @param userData  not used
 /// @param callback  never called: the return value is the only answer
-/// @return 0 when every subscription succeeded, otherwise 1 (also when the instance is not initialised)
+/// @return 0 when all that was tried succeeded, also when nothing was; otherwise 1, as when the channel is not open
+///         or the instance is not initialised. The indications without a switch are all tried again by the next
+///         call when one of them failed
 RADIO_API int radioRegisterVsEvent(RegVsEvtType switches, void* userData, RadioRequestCallback callback);
 
 /// Switches standard indications of the calling thread's instance on and off; otherwise as

@@ -26,8 +26,7 @@ extern "C" {
 /// @param offset    the common offset; its low 16 bits are sent
 /// @param configs   the table; the first 20 entries are sent, further ones are not
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
-///                  library's delivery thread
+/// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem; 2 for another rat; 1 when refused otherwise
 RADIO_API int radioSetIdcOffset(int rat, int offset, const std::vector<RadioIdcOffsetConfig>& configs,
                                 void* userData, RadioRequestCallback callback);

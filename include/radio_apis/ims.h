@@ -94,7 +94,7 @@ RADIO_API int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCa
 
 /// Names the gateway of calls over Wi-Fi (ePDG, 3GPP TS 23.003).
 ///
-/// @param fqdn      its name; of a long one the command's 255th character is the last
+/// @param fqdn      its name, at most 224 bytes: with more the command is cut at its end without a word
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record

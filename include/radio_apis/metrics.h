@@ -9,7 +9,7 @@
 
 /// Result of radioGetMetricsData.
 struct RadioMetricsData {
-    uint32_t length;     ///< bytes in `data`
+    uint32_t length;     ///< bytes in `data`; more are cut
     uint8_t data[16384]; ///< as the modem defines it
     int32_t type;        ///< which metrics; -1 when the modem does not say
     int32_t count;       ///< number of metrics; 0 when the modem does not say

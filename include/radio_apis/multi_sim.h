@@ -18,8 +18,7 @@ extern "C" {
 /// How the modem serves several SIM cards at the moment.
 ///
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.msimSubModeState`;
-///                  on the modem library's delivery thread
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.msimSubModeState`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback callback);
 
@@ -29,8 +28,7 @@ RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback call
 /// @param thresh1   the first threshold; with rat 4 it is sent multiplied by 4. 16 bits are sent
 /// @param thresh2   the second threshold, likewise
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
-///                  library's delivery thread
+/// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem; 2 for another rat; 1 when refused otherwise
 RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData,
                                            RadioRequestCallback callback);

@@ -25,7 +25,7 @@ struct RadioActionCellListEntry {
 static_assert(sizeof(RadioActionCellListEntry) == 6);
 
 /// A cell that an action aims at. The values are the modem's and passed through; those behind a `…Present`
-/// are sent only when that is not 0.
+/// are sent only when that is not 0. Of a `…Present` the low 8 bits are sent: use 1.
 struct RadioActionCellInfo {
     uint16_t value1;                        ///< passed through
     uint16_t value2;                        ///< passed through

@@ -11,7 +11,7 @@ inline constexpr unsigned kRadioMaxNvBytes = 20480; ///< bytes of the longest it
 /// Result of radioReadNv.
 struct RadioNvItem {
     uint32_t failure;               ///< 1 when the modem reported a failure, otherwise 0
-    uint16_t dataLen;               ///< number of bytes in `data`
+    uint16_t dataLen;               ///< number of bytes in `data`; more are cut
     uint8_t data[kRadioMaxNvBytes]; ///< the first `dataLen` bytes count
 };
 
@@ -22,8 +22,8 @@ extern "C" {
 /// @param id        the item's number
 /// @param index     which of its records
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.nvItemData`, whose `failure` tells of the
-///                  modem's failure
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.nvItemData`, whose
+///                  `failure` tells of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioReadNv(int id, signed char index, void* userData, RadioRequestCallback callback);
 
@@ -34,8 +34,8 @@ RADIO_API int radioReadNv(int id, signed char index, void* userData, RadioReques
 /// @param data      the new contents, copied before this returns; not null
 /// @param dataLen   their number, at most 20480 bytes
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.nvWrite`, whose `failure` tells of the
-/// modem's failure
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.nvWrite`, whose
+///                  `failure` tells of the modem's failure
 /// @return 0 when handed to the modem; 11 for a null `data` or too many bytes; 1 when refused otherwise
 RADIO_API int radioWriteNv(int id, signed char index, const unsigned char* data, unsigned int dataLen,
                            void* userData, RadioRequestCallback callback);

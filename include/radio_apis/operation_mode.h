@@ -6,31 +6,33 @@
 
 #include <cstdint>
 
-/// What the modem is wanted to do; only the low three bits count.
+/// What radioSetOperationMode is to do; only the low three bits count. These are not the numbers that
+/// radioGetOperationMode answers with: there 4 means that the radio is off.
 enum RADIO_OPERATION_MODE_TYPE : int32_t {
     RADIO_OPERATION_MODE_OFF = 0,   ///< as every value whose low three bits are not 4
-    RADIO_OPERATION_MODE_ONLINE = 4 ///< as every value whose low three bits are 4
+    RADIO_OPERATION_MODE_ONLINE = 4 ///< radio on; as every value whose low three bits are 4
 };
 
-/// The operation mode.
+/// Result of radioGetOperationMode.
 struct RadioOperationMode {
-    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
-    uint32_t mode;    ///< as the modem numbers it
+    uint32_t failure; ///< always 0: a failure of the modem is the callback's result
+    uint32_t mode;    ///< 0 minimum, 1 full functionality, 4 radio off; others as the modem numbers them
 };
 
 extern "C" {
 
-/// Sets the operation mode, waits 500 ms and looks whether the modem has it; once more after another 500 ms.
+/// Switches the radio on or off (+EFUN=3 or +EFUN=0), waits 500 ms and looks whether the modem has done so; once
+/// more after another 500 ms.
 ///
 /// @param mode      see the enumeration
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem has the mode, else with
-///                  RADIO_APIS_FAILURE; the record is empty
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem has done so, else with RADIO_APIS_FAILURE; the
+///                  record is empty
 /// @return 0 once started, also when the modem then can't be reached
 RADIO_API int radioSetOperationMode(RADIO_OPERATION_MODE_TYPE mode, void* userData,
                                     RadioRequestCallback callback);
 
-/// The level of functionality (3GPP TS 27.007, +CFUN): 0 minimum, 1 full, 4 radio off.
+/// The level of functionality (3GPP TS 27.007, +CFUN).
 ///
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.operationMode`, or with RADIO_APIS_FAILURE and a

@@ -17,16 +17,14 @@ extern "C" {
 /// The route of packets on activated data connections.
 ///
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.packetRoute`; on
-///                  the modem library's delivery thread
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.packetRoute`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetDataActPacketRoute(void* userData, RadioRequestCallback callback);
 
 /// The route of packets on network interfaces that are up.
 ///
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.packetRoute`; on
-///                  the modem library's delivery thread
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.packetRoute`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetDataIfupPacketRoute(void* userData, RadioRequestCallback callback);
 

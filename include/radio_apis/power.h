@@ -65,13 +65,17 @@ struct RadioAtValues {
 extern "C" {
 
 /// Sets power saving switches. With type 600 they are AT commands of one group: 1 sets five features from `op`,
-/// `dl`, `ul`, `delay` and `cnt`; 2 two of them from `op` and `dl`; 3 sets `op` for the receive level adjustment
-/// of NR, 4 for the search without a SIM, 5 for the low power control.
+/// `dl`, `ul`, `delay` and `cnt`, one after the other; 2 two other features from `op` and `dl`; 3 sets `op` for the
+/// receive level adjustment of NR, 4 for the search without a SIM, 5 for the low power control.
 ///
 /// @param info      the switches
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict; on success with an empty record
-/// @return 0 when handed to the modem, 1 when refused, which with type 600 every group but 1 to 5 is
+/// @param callback  called once with the modem's verdict and, on success, an empty record. With type 600 called once
+///                  with RADIO_APIS_SUCCESS when the modem accepted all commands, else with RADIO_APIS_FAILURE at the
+///                  first that it did not, each with an empty record; for groups 3 to 5 also with the modem's failure
+///                  and no record
+/// @return 0 when handed to the modem, and with type 600 and group 1 or 2 0 once started, also when the modem then
+///         can't be reached; 1 when refused, as with type 600 every group but 1 to 5
 RADIO_API int radioSetPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback callback);
 
 /// Sets when the modem may rest.
@@ -83,7 +87,8 @@ RADIO_API int radioSetPowerSavingState(const UAIINFO& info, void* userData, Radi
 RADIO_API int radioSetSmartIdleCfg(const RadioSmartIdleInfoType& info, void* userData,
                                    RadioRequestCallback callback);
 
-/// Switches the power boost.
+/// Switches the power boost. The modem gets the same message as from radioSetSarRegionCode: it can't tell the two
+/// apart.
 ///
 /// @param state     passed through
 /// @param userData  handed to `callback`
@@ -104,16 +109,15 @@ RADIO_API int radioGetPowerStatistics(void* userData, RadioRequestCallback callb
 /// @param index     which timer; -1: not sent
 /// @param timer     its time as the modem counts it; -1: not sent
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
-///                  library's delivery thread
+/// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetFastDormancyTimer(int index, int timer, void* userData, RadioRequestCallback callback);
 
 /// What the modem's memory is used for.
 ///
 /// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.modemHeapList`;
-///                  with RADIO_APIS_INVALID_PARAMETER and no record when the modem lists more than 50 heaps
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.modemHeapList`; or with
+///                  RADIO_APIS_INVALID_PARAMETER and no record when the modem lists more than 50 heaps
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetModemHeapList(void* userData, RadioRequestCallback callback);
 
@@ -125,7 +129,8 @@ RADIO_API int radioGetModemHeapList(void* userData, RadioRequestCallback callbac
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                  RADIO_APIS_FAILURE; the record is empty. Without bit 3 also with the modem's failure and no
 ///                  record
-/// @return 0 when handed to the modem, 1 when refused, as for an RQ4120 without bit 1 or 2
+/// @return 0 when handed to the modem, and with bit 3 0 once started, also when the modem then can't be reached; 1
+///         when refused, as for an RQ4120 without bit 1 or 2
 RADIO_API int radioUpdateDcdcSleepState(int state, void* userData, RadioRequestCallback callback);
 
 /// Has the modem ask the network to release its connection (fast dormancy).

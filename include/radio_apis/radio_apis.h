@@ -5,12 +5,13 @@
 ///
 ///   - takes its arguments, then a user data pointer, then a callback, which must not be null;
 ///   - copies what it needs from its arguments before it returns;
-///   - returns 0 when the request was handed to the modem - the callback is then called exactly once, on the
-///     modem library's delivery thread, or, where several commands run in turn and one could not be sent, on
-///     the timer thread - and another RADIO_APIS_RESULT when it was refused - the callback is then never
-///     called. Without an initialised instance that is RADIO_APIS_FAILURE.
+///   - returns 0 when the request was accepted - the callback is then called exactly once, on the thread that
+///     RadioRequestCallback tells - and another RADIO_APIS_RESULT when it was refused - the callback is then never
+///     called. Without an initialised instance, without memory, while the modem can't be reached, or when the
+///     arguments do not fit a message, it is refused with RADIO_APIS_FAILURE. Only a request that returns "0 once
+///     started" is accepted while the modem can't be reached: its callback gets RADIO_APIS_FAILURE.
 ///
-/// Any function may be called from any thread, and from within a callback.
+/// No function throws. lifecycle.h tells which ones may run at the same time, and what callbacks must not do.
 #pragma once
 
 #include "radio_apis/antenna.h"

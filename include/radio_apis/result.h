@@ -11,9 +11,10 @@ struct RadioApisResultType;
 
 /// What became of a request. 0 is success, every other value a failure.
 enum RADIO_APIS_RESULT : int32_t {
-    RADIO_APIS_SUCCESS = 0,           ///< carried out; the record holds the result
-    RADIO_APIS_FAILURE = 1,           ///< not sent, refused, or failed in the modem without a closer reason
-    RADIO_APIS_NOT_SUPPORTED = 2,     ///< an argument's value is not supported; modem results 105 and 106
+    RADIO_APIS_SUCCESS = 0, ///< carried out; the record holds the result
+    RADIO_APIS_FAILURE = 1, ///< not sent, no memory, or failed in the modem without a closer reason
+    RADIO_APIS_NOT_SUPPORTED =
+        2, ///< an argument's value, or the channel, is not supported; modem results 105, 106
     RADIO_APIS_MODEM_RESULT_31 = 10,  ///< modem result 31
     RADIO_APIS_INVALID_PARAMETER = 11 ///< an argument is missing or out of its range; modem result 21
 };
@@ -27,16 +28,22 @@ enum RAPIS_CONNECT_STATE : int32_t { RAPIS_CONNECTED = 0, RAPIS_DISCONNECTED = 1
 /// The modem instance (SIM slot): 0, 1 or 2.
 using RADIO_SUBS_ID_TYPE = uint32_t;
 
-/// Answers one request, exactly once, on the modem library's delivery thread - possibly before the request
-/// function returns to its caller.
+/// Answers one request, exactly once, possibly before the request function returns to its caller.
+///
+/// It is called on the modem library's delivery thread, as all events are, one after the other. A request that
+/// returns "0 once started" runs several commands, or waits in between, and may call it on the timer thread
+/// instead, while another callback runs on the delivery thread. lifecycle.h tells what a callback must not do. It
+/// must not throw.
 ///
 /// @param userData  the pointer given with the request, never dereferenced by the library
-/// @param result    RADIO_APIS_SUCCESS or why the request failed
-/// @param record    the result, valid during the call only: copy what is needed later. Null when the modem
-///                  answered a request with a failure; not null, and zero except for what the answer carried,
-///                  otherwise
+/// @param result    RADIO_APIS_SUCCESS or why the request failed. An answer that does not come in time, or is lost
+///                  with the link, is a failure of the modem
+/// @param record    the result, valid during the call only: copy what is needed later. What the answer did not
+///                  carry is zero. Null where the request's description says so, which for one that gets "the
+///                  modem's verdict" is every failure; and, with RADIO_APIS_FAILURE, when there was no memory to
+///                  read the answer
 using RadioRequestCallback = void (*)(void* userData, RADIO_APIS_RESULT result, RadioApisResultType* record);
 
-/// Reports a change of the modem service, on the modem status library's thread.
+/// Reports a change of the modem service, on the modem status library's thread. It must not throw.
 using RadioServiceCallback = void (*)(RADIO_APIS_SERVICE_TYPE service, RAPIS_CONNECT_STATE state,
                                       void* userData);

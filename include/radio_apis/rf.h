@@ -33,7 +33,7 @@ extern "C" {
 /// @param callback   called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                   RADIO_APIS_FAILURE; the record is empty
 /// @return 0 once started, also when the modem then can't be reached; 1 when refused, as when the file lists no
-///         command for this position or one that is more than a line
+///         command for this position or one with a control character in it
 RADIO_API int radioSetAsdivFixPosition(int featureId, int index, void* userData,
                                        RadioRequestCallback callback);
 

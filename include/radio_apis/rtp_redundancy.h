@@ -88,7 +88,7 @@ extern "C" {
 ///
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunCapability`; on the modem library's delivery thread
+///                  `rsp.imsRtpRedunCapability`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetImsRtpRedunCapability(void* userData, RadioRequestCallback callback);
 
@@ -97,7 +97,7 @@ RADIO_API int radioGetImsRtpRedunCapability(void* userData, RadioRequestCallback
 /// @param info      the call and the kind of key
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunPublicKey`; on the modem library's delivery thread
+///                  `rsp.imsRtpRedunPublicKey`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetImsRtpRedunPublicKey(const RadioImsRtpRedunKeyInfoType& info, void* userData,
                                            RadioRequestCallback callback);
@@ -107,7 +107,7 @@ RADIO_API int radioGetImsRtpRedunPublicKey(const RadioImsRtpRedunKeyInfoType& in
 /// @param info      the call and the key
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunRemotePublicKey`; on the modem library's delivery thread
+///                  `rsp.imsRtpRedunRemotePublicKey`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImsRtpRedunRemotePublicKey(const RadioImsRtpRedunPublicKeyInfoType& info,
                                                  void* userData, RadioRequestCallback callback);
@@ -117,7 +117,7 @@ RADIO_API int radioSetImsRtpRedunRemotePublicKey(const RadioImsRtpRedunPublicKey
 /// @param info      the call and what is to become of it
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunControl`; on the modem library's delivery thread
+///                  `rsp.imsRtpRedunControl`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetImsRtpRedunControlInfo(const RadioImsRtpRedunControlInfoType& info, void* userData,
                                              RadioRequestCallback callback);
@@ -127,7 +127,7 @@ RADIO_API int radioSetImsRtpRedunControlInfo(const RadioImsRtpRedunControlInfoTy
 /// @param info      which data path
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunDataPath`; on the modem library's delivery thread
+///                  `rsp.imsRtpRedunDataPath`
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSyncImsRtpRedunDataPathConfig(const RadioImsRtpRedunDataPathConfigType& info,
                                                  void* userData, RadioRequestCallback callback);

@@ -45,7 +45,8 @@ RADIO_API int radioGetSarDsiState(void* userData, RadioRequestCallback callback)
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetRtSarMode(int mode, void* userData, RadioRequestCallback callback);
 
-/// Tells the modem the region whose SAR limits hold.
+/// Tells the modem the region whose SAR limits hold. The modem gets the same message as from
+/// radioSetPowerBoostState: it can't tell the two apart.
 ///
 /// @param regionCode  the region's code, passed through
 /// @param userData  handed to `callback`

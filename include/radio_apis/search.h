@@ -28,7 +28,9 @@ struct RadioOosCfgInfo {
     /// Of options 3 and 4: 0 off, anything else on.
     int32_t enable;
     /// What is configured, and by which values: 1 by p7 to p11, 2 by p1, p2, p3, p5 and p6, 3 and 4 by `enable`,
-    /// 5 by p4; 100 the sniffer that watches for a network's return, by p7 to p11.
+    /// 5 by p4; 100 the sniffer that watches for a network's return, by p7 to p11. The command of option 1 has room
+    /// for 223 characters of numbers, with p7 in it 2 times, p8 4, p9 6, p10 7 and p11 4 times, and is cut there:
+    /// numbers of up to 9 characters, the sign among them, always survive.
     int32_t option;
     int32_t p1;  ///< of option 2
     int32_t p2;  ///< of option 2
@@ -36,7 +38,7 @@ struct RadioOosCfgInfo {
     int32_t p4;  ///< of option 5
     int32_t p5;  ///< of option 2
     int32_t p6;  ///< of option 2
-    int32_t p7;  ///< of p7 to p11 option 100 sends the low 8 bits
+    int32_t p7;  ///< of options 1 and 100; of p7 to p11 option 100 sends the low 8 bits
     int32_t p8;  ///< of options 1 and 100
     int32_t p9;  ///< of options 1 and 100
     int32_t p10; ///< of options 1 and 100
@@ -57,10 +59,9 @@ RADIO_API int radioHplmnBgSearch(const RadioHplmnBgSearchInfoType& info, void* u
 
 /// Lets the modem use a PLMN again that it avoids.
 ///
-/// @param info      the PLMN and the kind of its block. Of its text, MCC and MNC, six characters are sent
+/// @param info      the PLMN and the kind of its block. Of its text, MCC and MNC, at most six characters are sent
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
-///                  library's delivery thread
+/// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioPerformPlmnUnblock(RadioPlmnBlockInfo info, void* userData, RadioRequestCallback callback);
 
@@ -73,8 +74,7 @@ RADIO_API int radioPerformPlmnUnblock(RadioPlmnBlockInfo info, void* userData, R
 /// @param code            the tracking area code; its low 16 bits are sent
 /// @param type            kind of list as the modem defines it; its low 8 bits are sent
 /// @param userData        handed to `callback`
-/// @param callback        called once with the modem's verdict and, on success, an empty record; on the modem
-///                        library's delivery thread
+/// @param callback        called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioClearForbiddenTai(int option, int mcc, int mnc, bool mncThreeDigits, int code, int type,
                                      void* userData, RadioRequestCallback callback);
@@ -86,7 +86,7 @@ RADIO_API int radioClearForbiddenTai(int option, int mcc, int mnc, bool mncThree
 /// @param barringTime  how long the cell is barred, as the modem counts time
 /// @param userData     handed to `callback`
 /// @param callback     called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.cellBarring`,
-///                     whose `failure` tells of the modem's failure; on the modem library's delivery thread
+///                     whose `failure` tells of the modem's failure
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioConfigCellBarringParam(unsigned int threshold, unsigned int watchPeriod,
                                           unsigned int barringTime, void* userData,
@@ -96,8 +96,9 @@ RADIO_API int radioConfigCellBarringParam(unsigned int threshold, unsigned int w
 ///
 /// @param info      see the record
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and an empty record; for option 100 the record is null
-///                  when that is a failure
+/// @param callback  for options 1 to 5 called once with RADIO_APIS_SUCCESS when the modem accepted the command, else
+///                  with RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record.
+///                  For option 100 called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused, as for another option
 RADIO_API int radioSetOosCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCallback callback);
 

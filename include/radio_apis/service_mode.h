@@ -27,7 +27,9 @@ extern "C" {
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetServiceMode(void* userData, RadioRequestCallback callback);
 
-/// Sets the UE mode of operation. The modem's radio is switched off for that and on again.
+/// Sets the UE mode of operation. The modem's radio is switched off for that (+CFUN=0) and, when the modem took the
+/// mode, on again (+CFUN=1). After a failure the radio may be off: radioSetOperationMode with
+/// RADIO_OPERATION_MODE_ONLINE switches it on, radioGetOperationMode tells how it is.
 ///
 /// @param mode      as in RadioServiceMode
 /// @param userData  handed to `callback`
@@ -36,7 +38,8 @@ RADIO_API int radioGetServiceMode(void* userData, RadioRequestCallback callback)
 /// @return 0 once started, also when the modem then can't be reached
 RADIO_API int radioSetServiceMode(int mode, void* userData, RadioRequestCallback callback);
 
-/// Sets what the usage is centred on (3GPP TS 27.007, +CEUS). The radio is switched off for that and on again.
+/// Sets what the usage is centred on (3GPP TS 27.007, +CEUS). The radio is switched off and on as by
+/// radioSetServiceMode, and may be off after a failure.
 ///
 /// @param mode      as in RadioCentricMode
 /// @param userData  handed to `callback`

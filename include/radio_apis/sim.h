@@ -26,8 +26,8 @@ struct RadioUimAuthenticateReqInfo {
 
 /// Result of radioRequestIccSimAuthentication.
 struct RadioUimAuthentication {
-    uint32_t failure;                              ///< 1 when the modem reported a failure, otherwise 0
-    uint32_t length;                               ///< bytes of `content`; more are cut
+    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
+    uint32_t length;  ///< bytes of `content`, as many as the modem counts; more are cut
     uint8_t content[kRadioMaxAuthenticationBytes]; ///< the card's answer
 };
 
@@ -129,7 +129,7 @@ RADIO_API int radioGetRegionLockStatus(const unsigned char* data, unsigned int l
 /// @param info      the challenge
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.uimAuthentication`; on the modem library's delivery thread
+///                  `rsp.uimAuthentication`
 /// @return 0 when handed to the modem; 11 for more than 256 bytes; 1 when refused otherwise
 RADIO_API int radioRequestIccSimAuthentication(const RadioUimAuthenticateReqInfo& info, void* userData,
                                                RadioRequestCallback callback);
@@ -137,16 +137,14 @@ RADIO_API int radioRequestIccSimAuthentication(const RadioUimAuthenticateReqInfo
 /// Powers the SIM card up.
 ///
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
-///                  library's delivery thread
+/// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetUimPowerUp(void* userData, RadioRequestCallback callback);
 
 /// Powers the SIM card down: until it is powered up again the modem works as without one.
 ///
 /// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record; on the modem
-///                  library's delivery thread
+/// @param callback  called once with the modem's verdict and, on success, an empty record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioSetUimPowerDown(void* userData, RadioRequestCallback callback);
 
@@ -155,7 +153,8 @@ RADIO_API int radioSetUimPowerDown(void* userData, RadioRequestCallback callback
 /// @param option    not sent
 /// @param userData  handed to `callback`
 /// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.simCardType`, with RADIO_APIS_FAILURE and a
-///                  zeroed record without a card, or with the modem's failure and no record
+///                  zeroed record when the answer is no IMSI, as without a card, or with the modem's failure and no
+///                  record
 /// @return 0 when handed to the modem, 1 when refused
 RADIO_API int radioGetSimCardType(int option, void* userData, RadioRequestCallback callback);
 

@@ -30,8 +30,10 @@ int registerRadioEvent(RADIO_EVENT_TYPE event, void* userData, RadioEventCallbac
 {
     zorLogD(kApiTag, "%s : registerRadioEvent tlssubid %d eventId ", __func__, static_cast<int>(tlssubid));
     RpcClient* client = clientForEvent(event);
-    return client == nullptr ? static_cast<int>(RADIO_APIS_FAILURE)
-                             : client->registerRadioEvent(event, userData, callback);
+    if (client == nullptr) {
+        return RADIO_APIS_FAILURE;
+    }
+    return guarded(__func__, [=] { return client->registerRadioEvent(event, userData, callback); });
 }
 
 int radioRegisterVsEvent(RegVsEvtType switches, void* userData, RadioRequestCallback callback)

@@ -11,6 +11,8 @@
 #include <array>
 #include <atomic>
 #include <cstdint>
+#include <exception>
+#include <type_traits>
 #include <utility>
 
 inline constexpr char kApiTag[] = "VornApis";
@@ -23,13 +25,12 @@ extern thread_local uint32_t tlssubid;
 template <typename Client>
 using ClientSlots = std::array<std::atomic<Client*>, kInstances>;
 
+/// Nothing of it ends with the process: other threads may go on sending while that exits.
 struct ClientRegistry {
-    mindroid::ReentrantLock radioApiLock; ///< guards the creation of clients
     std::atomic<VornChannelClient*> channelClient{nullptr};
     ClientSlots<VornVsClient> vsClients{};
-    ClientSlots<VornAtClient> atClients{};
+    ClientSlots<VornAtClient> atClients{}; ///< each pointer stands for one reference of its client's
     ClientSlots<VornRadioClient> radioClients{};
-    std::array<mindroid::sp<VornAtClient>, kInstances> atReferences; ///< keep what atClients points to
 
     /// Creates the channel client when there is none.
     VornChannelClient& channel();
@@ -48,6 +49,10 @@ struct ClientRegistry {
 };
 
 extern ClientRegistry registry;
+static_assert(std::is_trivially_destructible_v<ClientRegistry>);
+
+/// Guards the creation of clients.
+mindroid::ReentrantLock& radioApiLock();
 
 /// The calling thread's client of one kind; null when there is none.
 template <typename Client>
@@ -58,6 +63,19 @@ Client* currentClient()
 }
 
 int refuseUninitialised(const char* entryPoint);
+int refuseAfter(const char* entryPoint, const std::exception& error);
+
+/// Runs what an exported function does; an exception, as for want of memory, is a refusal. None leaves a function
+/// that C code may have called.
+template <typename Operation>
+int guarded(const char* entryPoint, Operation operation)
+{
+    try {
+        return operation();
+    } catch (const std::exception& error) {
+        return refuseAfter(entryPoint, error);
+    }
+}
 
 /// What every entry point is: the call of one method of the calling thread's client.
 template <typename Client, typename... Parameters, typename... Arguments>
@@ -67,7 +85,7 @@ int forward(const char* entryPoint, int (Client::*method)(Parameters...), Argume
     if (client == nullptr) {
         return refuseUninitialised(entryPoint);
     }
-    return (client->*method)(std::forward<Arguments>(arguments)...);
+    return guarded(entryPoint, [&] { return (client->*method)(std::forward<Arguments>(arguments)...); });
 }
 
 /// The line that some entry points log first.

@@ -7,6 +7,7 @@
 
 #include <exception>
 #include <functional>
+#include <new>
 #include <utility>
 
 /// Interprets the parsed answer of one command: fills the record and returns the result code. The parcel is
@@ -19,12 +20,15 @@ public:
     explicit AtResponseCallback(Function function) : mFunction(std::move(function)) {}
 
     /// The interpreter's verdict; RADIO_APIS_FAILURE when there is no interpreter, or when it throws, as
-    /// those do that read what the answer does not hold.
+    /// those do that read what the answer does not hold. Want of memory says nothing of the answer and goes on to
+    /// who asked.
     RADIO_APIS_RESULT interpret(const mindroid::sp<mindroid::Parcel>& answer,
                                 RadioApisResultType* record) const
     {
         try {
             return mFunction ? mFunction(answer, record) : RADIO_APIS_FAILURE;
+        } catch (const std::bad_alloc&) {
+            throw;
         } catch (const std::exception&) {
             return RADIO_APIS_FAILURE;
         }

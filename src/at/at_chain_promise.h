@@ -7,6 +7,7 @@
 #include "mindroid/promise.h"
 #include "mindroid/string.h"
 
+#include <new>
 #include <vector>
 
 /// A failed step, with the result code for the caller.
@@ -24,6 +25,21 @@ private:
 /// that caused `e`, RADIO_APIS_FAILURE when something else did.
 void processRadioException(const mindroid::sp<RadioApiCallback>& cb, void* userData,
                            const mindroid::sp<mindroid::Exception>& e);
+
+/// The same with the exception that `makeException` makes. Without the memory for one, the code is
+/// RADIO_APIS_FAILURE and there is no record.
+template <typename MakeException>
+void endWithException(const mindroid::sp<RadioApiCallback>& cb, void* userData, MakeException makeException)
+{
+    mindroid::sp<mindroid::Exception> exception;
+    try {
+        exception = makeException();
+    } catch (const std::bad_alloc&) {
+        cb->call(userData, RADIO_APIS_FAILURE, nullptr);
+        return;
+    }
+    processRadioException(cb, userData, exception);
+}
 
 /// One command of a chain.
 struct CmdPair : mindroid::Object {
@@ -49,87 +65,114 @@ public:
     }
 
     /// Sends the first command and returns. The callback never runs inside this call; an empty chain succeeds
-    /// on the timer thread.
+    /// on the timer thread. Throws only where nothing was sent, and then never calls back.
     void start(const mindroid::sp<VornAtClient>& client, void* userData, RadioApiCallback::Function cb)
     {
         mClient = client;
         mUserData = userData;
         mCallback = mindroid::make<RadioApiCallback>(std::move(cb));
         const mindroid::sp<AtChainPromise> self(this);
-        const auto head = mindroid::make<Promise>();
-        auto tail = head;
-        for (size_t i = 0; i < mCommands.size(); ++i) {
-            tail = tail->compose([self, i](const T&) { return self->runStep(i); });
-            if (mCommands[i]->delay > 0) {
-                tail = tail->delay(std::chrono::milliseconds(mCommands[i]->delay));
-            }
-        }
-        tail->catchException([self](const mindroid::sp<mindroid::Exception>& exception) {
-            if (!self->mLastIsUnderWay) {
-                processRadioException(self->mCallback, self->mUserData, exception);
-            }
-        });
         if (mCommands.empty()) {
-            mindroid::runAfter(std::chrono::milliseconds(0), [self] {
+            mindroid::runAfter(kAtOnce, [self] {
                 ZeroedResult record;
                 self->mCallback->call(self->mUserData, RADIO_APIS_SUCCESS, &record);
             });
+        } else if (!runStep(0)) {
+            // Not from here: the caller is still inside the request function.
+            mindroid::runAfter(kAtOnce, [self] { self->fail(RADIO_APIS_FAILURE); });
         }
-        head->complete(T());
     }
 
 private:
     using Promise = mindroid::Promise<T>;
 
-    static void fail(const mindroid::sp<Promise>& step, int result)
-    {
-        step->completeExceptionally(
-            mindroid::make<mindroid::CompletionException>(mindroid::make<RadioException>(result)));
-    }
+    static constexpr std::chrono::milliseconds kAtOnce{0};
 
-    /// Sends one command; the promise tells what its interpreter says.
-    mindroid::sp<mindroid::Thenable<T>> runStep(size_t index)
+    /// Sends one command; false when it was refused. The last one's answer goes from the transport to the caller,
+    /// with the record and whatever it says; every other one's decides whether the chain goes on.
+    bool runStep(size_t index)
     {
         const CmdPair& pair = *mCommands[index];
-        const auto step = mindroid::make<Promise>();
-        const auto interpreter = mindroid::make<AtResponseCallback>(
-            [step, own = pair.interpreter](const mindroid::sp<mindroid::Parcel>& answer,
-                                           RadioApisResultType* record) {
-                const RADIO_APIS_RESULT result = own->interpret(answer, record);
-                if (result == RADIO_APIS_SUCCESS) {
-                    step->complete(T());
-                } else {
-                    fail(step, result);
-                }
-                return result;
-            });
-        if (send(index, pair.text->c_str(), interpreter) != 0) {
-            // Not from here: the caller may still be inside the request function.
-            mindroid::runAfter(std::chrono::milliseconds(0), [step] { fail(step, RADIO_APIS_FAILURE); });
+        const char* cmd = pair.text->c_str();
+        if (index + 1 == mCommands.size()) {
+            return mClient->sendAtCommand(cmd, mUserData, mCallback, pair.interpreter) == 0;
         }
-        return step;
+        const mindroid::sp<AtChainPromise> self(this);
+        const auto interpreter = mindroid::make<AtResponseCallback>(
+            [self, index](const mindroid::sp<mindroid::Parcel>& answer, RadioApisResultType*) {
+                return self->onAnswer(index, answer);
+            });
+        return mClient->sendAtCommand(cmd, mUserData, interpreter) == 0;
     }
 
-    /// Once the last command is under way the transport calls the caller back, with the record, whatever the
-    /// answer; then the exception of its step is nobody's business any more.
-    int send(size_t index, const char* cmd, const mindroid::sp<AtResponseCallback>& interpreter)
+    RADIO_APIS_RESULT onAnswer(size_t index, const mindroid::sp<mindroid::Parcel>& answer)
     {
-        if (index + 1 < mCommands.size()) {
-            return mClient->sendAtCommand(cmd, mUserData, interpreter);
+        RADIO_APIS_RESULT result = RADIO_APIS_FAILURE;
+        attempt([&] {
+            result = mCommands[index]->interpreter->interpret(answer, nullptr);
+            return true;
+        });
+        if (result == RADIO_APIS_SUCCESS) {
+            goOnAfter(index);
+        } else {
+            fail(result);
         }
-        mLastIsUnderWay = true;
-        const int refused = mClient->sendAtCommand(cmd, mUserData, mCallback, interpreter);
-        if (refused != 0) {
-            mLastIsUnderWay = false;
+        return result;
+    }
+
+    /// Each step starts when the one before it is done, out of its answer or its pause: what a chain needs of the
+    /// stack does not grow with its length.
+    void goOnAfter(size_t index)
+    {
+        if (mCommands[index]->delay > 0) {
+            failUnless(attempt([&] { return startPause(index); }));
+        } else {
+            failUnless(attempt([&] { return runStep(index + 1); }));
         }
-        return refused;
+    }
+
+    bool startPause(size_t index)
+    {
+        const mindroid::sp<AtChainPromise> self(this);
+        const auto step = mindroid::make<Promise>();
+        step->delay(std::chrono::milliseconds(mCommands[index]->delay))
+            ->then([self, index](const T&, const mindroid::sp<mindroid::Exception>& exception) {
+                self->failUnless(!exception && attempt([&] { return self->runStep(index + 1); }));
+            });
+        step->complete(T());
+        return true;
+    }
+
+    void failUnless(bool done)
+    {
+        if (!done) {
+            fail(RADIO_APIS_FAILURE);
+        }
+    }
+
+    /// What `operation` returns; false without the memory for it.
+    template <typename Operation>
+    static bool attempt(Operation operation)
+    {
+        try {
+            return operation();
+        } catch (const std::exception&) {
+            return false;
+        }
+    }
+
+    /// Tells the caller how the chain ended; the last that a chain does.
+    void fail(int result)
+    {
+        endWithException(mCallback, mUserData, [=] {
+            return mindroid::make<mindroid::CompletionException>(mindroid::make<RadioException>(result));
+        });
     }
 
     std::vector<mindroid::sp<CmdPair>> mCommands;
     mindroid::sp<VornAtClient> mClient;
     void* mUserData = nullptr;
     mindroid::sp<RadioApiCallback> mCallback;
-    bool mLastIsUnderWay = false; ///< only the thread of the last step changes it, before its answer can come
 };
 
 using AtChain = AtChainPromise<mindroid::sp<mindroid::Void>>;

@@ -157,7 +157,7 @@ int32_t maskAt(const Pieces& pieces, size_t index)
     return static_cast<int32_t>(toMask(pieces.at(index)).value());
 }
 
-/// 64 bits out of two masks, of which the answer may have fewer.
+/// 64 bits out of two masks, of which the answer may have none or one.
 uint64_t lteBands(const Pieces& pieces, size_t index)
 {
     uint64_t bands = 0;
@@ -182,12 +182,19 @@ RADIO_APIS_RESULT onBand(int nwType, const sp<Parcel>& answer, RadioApisResultTy
         info.low = RfTestHelper::convertWCDMABandBit2UIbit(maskAt(*pieces, 1));
         break;
     case RADIO_BAND_LTE:
+        if (pieces->size() <= kLtePiece) {
+            return RADIO_APIS_FAILURE;
+        }
         info.low = lteBands(*pieces, kLtePiece);
         info.high = lteBands(*pieces, kLtePiece + 2);
         break;
     default: // NR
-        info.low = RfTestHelper::parserEPBSEHLow(std::string(pieces->at(kNrPiece)));
-        info.high = RfTestHelper::parserEPBSEHHigh(std::string(pieces->at(kNrPiece)));
+        const std::string mask(pieces->at(kNrPiece));
+        if (!RfTestHelper::isEPBSEHMask(mask)) {
+            return RADIO_APIS_FAILURE;
+        }
+        info.low = RfTestHelper::parserEPBSEHLow(mask);
+        info.high = RfTestHelper::parserEPBSEHHigh(mask);
     }
     result->rsp.bandInfo = info;
     return RADIO_APIS_SUCCESS;
@@ -206,6 +213,9 @@ RADIO_APIS_RESULT onCdmaBand(const sp<Parcel>& answer, RadioApisResultType* resu
         return RADIO_APIS_FAILURE;
     }
     const std::string mask = fieldText(*answer);
+    if (!RfTestHelper::isCDMAMask(mask)) {
+        return RADIO_APIS_FAILURE;
+    }
     result->rsp.bandInfo = {RADIO_BAND_CDMA, RfTestHelper::convertCDMABandBit2UIbit(mask), 0};
     return RADIO_APIS_SUCCESS;
 }

@@ -12,86 +12,131 @@ using namespace std::chrono_literals;
 
 namespace {
 
-using Step = mindroid::Promise<bool>; ///< whether the modem is known to have the wanted mode
-using Check = std::function<bool(Parcel& answer)>;
-
+constexpr char kMethod[] = "setOperationMode";
 constexpr auto kPause = 500ms; ///< the modem needs about so long to change its mode
 
-sp<mindroid::Exception> failure()
-{
-    return make<mindroid::CompletionException>(make<RadioException>(RADIO_APIS_FAILURE));
-}
+/// A change of the mode under way: the command and, each after a pause, up to two looks whether the modem has
+/// followed. What is under way keeps it alive. The caller is called back once, whatever fails.
+class ModeChange : public mindroid::Object {
+public:
+    ModeChange(VornAtClient* client, unsigned char wanted, void* userData, RadioRequestCallback cb)
+        : mClient(client), mWanted(wanted), mUserData(userData), mCallback(make<RadioApiCallback>(cb))
+    {}
 
-/// What `check` says of an accepted answer; nothing when the answer was refused, or has not what `check` reads.
-std::optional<bool> checkAnswer(const sp<Parcel>& answer, const Check& check)
-{
-    try {
-        if (answer->getBoolean()) {
-            return check(*answer);
+    /// Sends the command. The callback never runs inside this call. Throws only where nothing was sent, and then
+    /// never calls back.
+    void start()
+    {
+        try {
+            send(AtText<64>("AT+EFUN=%hhu", mWanted), &ModeChange::onSet);
+        } catch (const RadioException& refused) {
+            mindroid::runAfter(0ms,
+                               [self = sp(this), refused] { self->run([&]() -> bool { throw refused; }); });
         }
-        zorLogD(kTag, "getBoolean: false");
-    } catch (const mindroid::Exception&) {
     }
-    return std::nullopt;
-}
 
-/// Sends one command; the promise tells what its check says, or fails.
-sp<Step> sendStep(const sp<VornAtClient>& client, void* userData, const char* cmd, const Check& check)
-{
-    auto step = make<Step>();
-    const auto onAnswer = [=](const sp<Parcel>& answer, RadioApisResultType*) {
-        const auto verdict = checkAnswer(answer, check);
-        if (!verdict) {
-            step->completeExceptionally(failure());
-            return RADIO_APIS_FAILURE;
+private:
+    using Step = bool (ModeChange::*)(const sp<Parcel>& answer);
+
+    /// Runs a part of the change, which returns whether the modem has the mode. What it throws ends the change.
+    template <typename Part>
+    void run(Part part)
+    {
+        try {
+            if (!part()) {
+                return;
+            }
+        } catch (const RadioException& failure) {
+            zorLogE(kTag, "%s: processRadioException: %s", kMethod, failure.what());
+            endWithException(mCallback, mUserData, [&] {
+                return make<mindroid::CompletionException>(make<RadioException>(failure.getResult()));
+            });
+            return;
+        } catch (const std::exception& exception) {
+            zorLogE(kTag, "%s: process exception: %s", kMethod, exception.what());
+            endWithException(mCallback, mUserData,
+                             [&] { return make<mindroid::Exception>(exception.what()); });
+            return;
         }
-        step->complete(*verdict);
-        return RADIO_APIS_SUCCESS;
-    };
-    if (client->sendAtCommand(cmd, userData, make<AtResponseCallback>(onAnswer)) != 0) {
-        // Not from here: the caller may still be inside the request function.
-        mindroid::runAfter(0ms, [step] { step->completeExceptionally(failure()); });
+        ZeroedResult record;
+        mCallback->call(mUserData, RADIO_APIS_SUCCESS, &record);
     }
-    return step;
-}
 
-/// Whether one of the numbers in the answer is the wanted mode.
-bool findMode(Parcel& answer, unsigned wanted)
-{
-    const int count = answer.getInt();
-    zorLogD(kTag, "query efun callback: efun=%d,  p->len=%d", static_cast<int>(wanted), count);
-    for (int i = 0; i < count; ++i) {
-        const auto mode = at::nextInteger(answer);
-        if (!mode) {
-            zorLogD(kTag, "unexpected type");
-            continue;
+    void send(const char* cmd, Step onAnswer)
+    {
+        const auto interpreter = [self = sp(this), onAnswer](const sp<Parcel>& answer, RadioApisResultType*) {
+            self->run([&] { return ((*self).*onAnswer)(answer); });
+            return RADIO_APIS_SUCCESS;
+        };
+        if (mClient->sendAtCommand(cmd, mUserData, make<AtResponseCallback>(interpreter)) != 0) {
+            throw RadioException(RADIO_APIS_FAILURE);
         }
-        zorLogD(kTag, "curMode=%d", *mode);
-        if (*mode == static_cast<int>(wanted)) {
+    }
+
+    static void checkAccepted(const sp<Parcel>& answer)
+    {
+        if (!answer->getBoolean()) {
+            zorLogD(kTag, "getBoolean: false");
+            throw RadioException(RADIO_APIS_FAILURE);
+        }
+    }
+
+    bool onSet(const sp<Parcel>& answer)
+    {
+        checkAccepted(answer);
+        lookLater();
+        return false;
+    }
+
+    void lookLater()
+    {
+        mindroid::runAfter(kPause, [self = sp(this)] {
+            self->run([&] {
+                self->send("AT+EFUN?", &ModeChange::onLook);
+                return false;
+            });
+        });
+    }
+
+    bool onLook(const sp<Parcel>& answer)
+    {
+        constexpr int kMostLooks = 2;
+        checkAccepted(answer);
+        if (hasWantedMode(*answer)) {
             return true;
         }
+        if (++mLooks == kMostLooks) {
+            throw RadioException(RADIO_APIS_FAILURE);
+        }
+        lookLater();
+        return false;
     }
-    return false;
-}
 
-/// Tells the caller, once, how the change ended.
-void finish(const sp<RadioApiCallback>& callback, void* userData, bool reached,
-            const sp<mindroid::Exception>& exception)
-{
-    constexpr char kMethod[] = "setOperationMode";
-    if (!exception && reached) {
-        ZeroedResult record;
-        callback->call(userData, RADIO_APIS_SUCCESS, &record);
-        return;
+    /// Whether one of the numbers in the answer is the wanted mode.
+    bool hasWantedMode(Parcel& answer) const
+    {
+        const int count = answer.getInt();
+        zorLogD(kTag, "query efun callback: efun=%d,  p->len=%d", mWanted, count);
+        for (int i = 0; i < count; ++i) {
+            const auto mode = at::nextInteger(answer);
+            if (!mode) {
+                zorLogD(kTag, "unexpected type");
+                continue;
+            }
+            zorLogD(kTag, "curMode=%d", *mode);
+            if (*mode == mWanted) {
+                return true;
+            }
+        }
+        return false;
     }
-    const sp<mindroid::Exception> reason = exception ? exception : failure();
-    if (const auto* cause = dynamic_cast<const RadioException*>(reason->getCause().get())) {
-        zorLogE(kTag, "%s: processRadioException: %s", kMethod, cause->what());
-    } else {
-        zorLogE(kTag, "%s: process exception: %s", kMethod, reason->what());
-    }
-    processRadioException(callback, userData, reason);
-}
+
+    const sp<VornAtClient> mClient;
+    const unsigned char mWanted;
+    void* const mUserData;
+    const sp<RadioApiCallback> mCallback;
+    int mLooks = 0;
+};
 
 RADIO_APIS_RESULT onFunctionality(const sp<Parcel>& answer, RadioApisResultType* result)
 {
@@ -118,25 +163,7 @@ int VornAtClient::setOperationMode(RADIO_OPERATION_MODE_TYPE mode, void* userDat
     constexpr unsigned kModeBits = 7;
     const unsigned char wanted =
         (static_cast<unsigned>(mode) & kModeBits) == RADIO_OPERATION_MODE_ONLINE ? 3 : 0;
-    const sp<VornAtClient> self(this);
-    const auto look = [=] {
-        return sendStep(self, userData, "AT+EFUN?",
-                        [wanted](Parcel& answer) { return findMode(answer, wanted); });
-    };
-    const auto lookAgain = [=](bool reached) {
-        const auto pause = make<Step>();
-        pause->complete(reached);
-        return reached ? pause : pause->delay(kPause)->compose([=](bool) { return look(); });
-    };
-    const AtText<64> command("AT+EFUN=%hhu", wanted);
-    sendStep(self, userData, command, [](Parcel&) { return false; })
-        ->delay(kPause)
-        ->compose([=](bool) { return look(); })
-        ->compose(lookAgain)
-        ->then([=, callback = make<RadioApiCallback>(cb)](bool reached,
-                                                          const sp<mindroid::Exception>& exception) {
-            finish(callback, userData, reached, exception);
-        });
+    make<ModeChange>(this, wanted, userData, cb)->start();
     return RADIO_APIS_SUCCESS;
 }
 

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
+#include <new>
 
 using tinyxml2::XMLElement;
 
@@ -93,7 +94,8 @@ RfConfigParser::RfConfigParser()
 
 const RfConfigParser& RfConfigParser::instance()
 {
-    static const RfConfigParser parser;
+    // Never destroyed: a program may end while another thread still asks.
+    static const RfConfigParser& parser = *new RfConfigParser;
     return parser;
 }
 
@@ -146,10 +148,11 @@ char* RfConfigParser::getAtCmd(const char* command, const char* params)
     const size_t prefix = std::strlen(entry->second);
     const size_t rest = std::strlen(params);
     auto* text = static_cast<char*>(std::calloc(prefix + rest + 1, 1));
-    if (text != nullptr) {
-        std::memcpy(text, entry->second, prefix);
-        std::memcpy(text + prefix, params, rest + 1);
+    if (text == nullptr) {
+        throw std::bad_alloc(); // null would mean that the command is unknown, and the chain would lack one
     }
+    std::memcpy(text, entry->second, prefix);
+    std::memcpy(text + prefix, params, rest + 1);
     return text;
 }
 

@@ -3,6 +3,7 @@
 #include "at/at_log.h"
 
 #include <charconv>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -50,20 +51,26 @@ bool removeHexPrefix(std::string_view& text)
     return present;
 }
 
-/// 0 for what is no number of this base.
-uint64_t toNumber(std::string_view digits, int base)
+/// Nothing for what is no number of this base.
+std::optional<uint64_t> toNumber(std::string_view digits, int base)
 {
     uint64_t number = 0;
     const char* end = digits.data() + digits.size();
     const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
-    return error == std::errc() && stop == end ? number : 0;
+    return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
+}
+
+std::optional<uint64_t> toBandClasses(std::string_view digits)
+{
+    const int base = removeHexPrefix(digits) ? 16 : 10;
+    return toNumber(digits, base);
 }
 
 constexpr size_t kHalf = 16; ///< digits of 64 bits
 
 uint64_t parseHalf(const char* function, std::string_view digits)
 {
-    const uint64_t mask = toNumber(digits, 16);
+    const uint64_t mask = toNumber(digits, 16).value_or(0);
     zorLogD(kTag, "%s 64 bits=[%.*s]  ret=0x%llx", function, static_cast<int>(digits.size()), digits.data(),
             static_cast<unsigned long long>(mask));
     return mask;
@@ -81,11 +88,21 @@ uint64_t RfTestHelper::convertWCDMABandBit2UIbit(int modemMask)
     return moveBits(__func__, static_cast<uint32_t>(modemMask), kWcdmaBits);
 }
 
-uint64_t RfTestHelper::convertCDMABandBit2UIbit(const std::string& text)
+bool RfTestHelper::isCDMAMask(const std::string& text)
+{
+    return toBandClasses(text).has_value();
+}
+
+bool RfTestHelper::isEPBSEHMask(const std::string& text)
 {
     std::string_view digits = text;
-    const int base = removeHexPrefix(digits) ? 16 : 10;
-    const uint64_t bandClass0 = toNumber(digits, base) & 1;
+    removeHexPrefix(digits);
+    return !digits.empty() && digits.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos;
+}
+
+uint64_t RfTestHelper::convertCDMABandBit2UIbit(const std::string& text)
+{
+    const uint64_t bandClass0 = toBandClasses(text).value_or(0) & 1;
     const uint64_t mask = bandClass0 << UI_MASK_CDMABC0_BIT;
     zorLogD(kTag, "%s change from %s to 0x%llx", __func__, text.c_str(),
             static_cast<unsigned long long>(mask));

@@ -29,6 +29,10 @@ public:
     static uint64_t convertGSMBandBit2UIbit(int modemMask);
     static uint64_t convertWCDMABandBit2UIbit(int modemMask);
 
+    /// Whether a text is one that the functions below read a mask from.
+    static bool isCDMAMask(const std::string& text);
+    static bool isEPBSEHMask(const std::string& text);
+
     /// A mask of band classes, in decimal or, behind "0x", in hexadecimal digits; any other text gives 0.
     static uint64_t convertCDMABandBit2UIbit(const std::string& text);
 

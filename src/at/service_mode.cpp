@@ -60,6 +60,5 @@ int VornAtClient::setCentricMode(int mode, void* userData, RadioRequestCallback 
 
 int VornAtClient::getCentricMode(void* userData, RadioRequestCallback cb)
 {
-    zorLogD(kTag, "%s: ENTER", __func__);
     return sendQuery("AT+CEUS?", userData, cb, onCentricMode);
 }

@@ -49,6 +49,25 @@ struct VornAtClient::Command : RadioApisAsyncData {
         return interpreter ? interpreter->interpret(answer, record) : RADIO_APIS_FAILURE;
     }
 
+    /// What the caller gets.
+    struct Outcome {
+        RADIO_APIS_RESULT result;
+        RadioApisResultType* record;
+    };
+
+    /// Has the answer interpreted into `record`. Without the memory for that there is a failure and no record.
+    template <Parse parse>
+    Outcome outcomeOf(const void* response, const char* direction, RadioApisResultType& record) const
+    {
+        try {
+            const sp<Parcel> answer = read<parse>(response, direction);
+            return {answer ? interpret(answer, &record) : RADIO_APIS_FAILURE, &record};
+        } catch (const std::bad_alloc&) {
+            zorLogE(kTag, "slot %d: no memory to read an answer", slotId);
+            return {RADIO_APIS_FAILURE, nullptr};
+        }
+    }
+
     /// The handlers of the send operations.
     template <Parse parse>
     static void answerResultCallback(void* response, unsigned int, RadioApisAsyncData* context);
@@ -69,9 +88,8 @@ void VornAtClient::Command::answerResultCallback(void* response, unsigned int, R
     }
     const auto* command = static_cast<Command*>(context);
     ZeroedResult record;
-    const sp<Parcel> answer = command->read<parse>(response, "receive at");
-    const RADIO_APIS_RESULT result = answer ? command->interpret(answer, &record) : RADIO_APIS_FAILURE;
-    context->resultCallback(context->userData, result, &record);
+    const Outcome outcome = command->outcomeOf<parse>(response, "receive at", record);
+    context->resultCallback(context->userData, outcome.result, outcome.record);
 }
 
 void VornAtClient::Command::answerSharedCallback(void* response, unsigned int, RadioApisAsyncData* context)
@@ -81,10 +99,9 @@ void VornAtClient::Command::answerSharedCallback(void* response, unsigned int, R
     }
     const auto* command = static_cast<Command*>(context);
     ZeroedResult record;
-    const sp<Parcel> answer = command->read<&AtCmdParser::parserAtCmdResponse>(response, "atcmd");
-    const RADIO_APIS_RESULT result = answer ? command->interpret(answer, &record) : RADIO_APIS_FAILURE;
+    const Outcome outcome = command->outcomeOf<&AtCmdParser::parserAtCmdResponse>(response, "atcmd", record);
     if (command->sharedCallback) {
-        command->sharedCallback->call(context->userData, result, &record);
+        command->sharedCallback->call(context->userData, outcome.result, outcome.record);
     }
 }
 
@@ -94,7 +111,13 @@ void VornAtClient::Command::answerInterpreter(void* response, unsigned int, Radi
         return;
     }
     const auto* command = static_cast<Command*>(context);
-    command->interpret(command->read<&AtCmdParser::parserAtCmdResponse>(response, "atcmd"), nullptr);
+    sp<Parcel> answer;
+    try {
+        answer = command->read<&AtCmdParser::parserAtCmdResponse>(response, "atcmd");
+    } catch (const std::bad_alloc&) {
+        zorLogE(kTag, "slot %d: no memory to read an answer", command->slotId);
+    }
+    command->interpret(answer, nullptr);
 }
 
 VornAtClient::VornAtClient(bool, int slotId) : VornClient(slotId, nullptr, 0) {}
@@ -103,7 +126,7 @@ int VornAtClient::sendCommand(const char* cmd, std::unique_ptr<Command> command)
 {
     auto request = newRequest(kAtMessage);
     request->addVornTlvStr(kAtText, cmd);
-    return sendAsyncRequest(request->getData(), std::move(command));
+    return sendComplete(*request, std::move(command));
 }
 
 int VornAtClient::sendAtCommand(const char* cmd, void* userData, RadioRequestCallback cb,

@@ -29,7 +29,7 @@ public:
                       const mindroid::sp<AtResponseCallback>& rsp);
 
     /// Nobody waits for a result: only `rsp` is called, without a record, and without a parcel when there was
-    /// no text.
+    /// no text. It deals with its own want of memory: nobody else could tell the caller.
     int sendAtCommand(const char* cmd, void* userData, const mindroid::sp<AtResponseCallback>& rsp);
 
     /// As the first, with the answer's data as one string.

@@ -57,7 +57,9 @@ void RpcClient::radioApiEventCall(RADIO_APIS_SERVICE_TYPE service, RAPIS_CONNECT
     }
     const auto listeners = mServiceListeners.snapshot();
     for (const ServiceRegistration& listener : *listeners) {
-        listener.callback(service, state, listener.userData);
+        if (listener.callback != nullptr) {
+            listener.callback(service, state, listener.userData);
+        }
     }
 }
 

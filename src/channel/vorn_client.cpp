@@ -3,6 +3,7 @@
 #include "channel/slot_id.h"
 #include "zor/log.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -39,6 +40,16 @@ int VornClient::sendAsyncRequest(vorn_msg_t* request, std::unique_ptr<RadioApisA
     }
     zorLogE(kClientTag, "error - sendAsyncRequest VORN_VS_SEND_SCREEN_STATE_REQ ret %d", result);
     return RADIO_APIS_FAILURE;
+}
+
+int VornClient::sendComplete(const VornData& request, std::unique_ptr<RadioApisAsyncData> context)
+{
+    if (!request.isComplete()) {
+        zorLogE(kClientTag, "%s: message 0x%04x lacks a field that could not be added", __func__,
+                request.getVornMsgId());
+        return RADIO_APIS_FAILURE;
+    }
+    return sendAsyncRequest(request.getData(), std::move(context));
 }
 
 void vornResponseCallback(vorn_msg_t* response, void* user)
@@ -121,6 +132,7 @@ bool VornClient::deregisterVornIndMsg(int msgId)
 
 bool VornClient::switchIndication(const char* tag, RadioEventSwitch wanted, uint8_t& lastInd, int msgId)
 {
+    std::unique_lock lock(mSwitches);
     if (wanted.valid == 0 || wanted.ind == lastInd) {
         return true;
     }
@@ -130,9 +142,30 @@ bool VornClient::switchIndication(const char* tag, RadioEventSwitch wanted, uint
         zorLogD(tag, "%s: instance %d event %d register result %d", "registerEvent", mInstance, msgId, done);
         return done;
     }
+    lock.unlock();
     const bool done = deregisterVornIndMsg(msgId);
     zorLogD(tag, "%s: instance %d event %d deregister result %d", "registerEvent", mInstance, msgId, done);
+    lock.lock();
+    if (lastInd != 0) {
+        registerVornIndMsg(msgId); // another thread has switched it on meanwhile
+    }
     return done;
+}
+
+void VornClient::forgetSwitches(std::span<uint8_t> lastInds)
+{
+    const std::lock_guard lock(mSwitches);
+    std::ranges::fill(lastInds, uint8_t{0});
+}
+
+void VornClient::registerSwitchedOn(std::span<const int> msgIds, std::span<const uint8_t> lastInds)
+{
+    const std::lock_guard lock(mSwitches);
+    for (size_t i = 0; i < msgIds.size(); ++i) {
+        if (lastInds[i] != 0) {
+            registerVornIndMsg(msgIds[i]);
+        }
+    }
 }
 
 bool VornClient::switchOn(const char* tag, int msgId)

@@ -6,6 +6,8 @@
 #include "channel/vorn_data.h"
 
 #include <memory>
+#include <mutex>
+#include <span>
 #include <type_traits>
 
 /// Base of the clients that speak to the modem.
@@ -22,6 +24,9 @@ public:
     ///                 before this returns - or at once when the request is refused
     /// @return 0 when accepted, 1 when refused
     static int sendAsyncRequest(vorn_msg_t* request, std::unique_ptr<RadioApisAsyncData> context);
+
+    /// The same; a message that lacks a field is refused.
+    static int sendComplete(const VornData& request, std::unique_ptr<RadioApisAsyncData> context);
 
     /// The handler of answers that carry no payload: calls the result callback with success and an empty
     /// record.
@@ -40,6 +45,15 @@ protected:
     bool switchIndication(const char* tag, RadioEventSwitch wanted, uint8_t& lastInd, int msgId);
     bool switchOn(const char* tag, int msgId); ///< for an indication without a switch
 
+    /// What the end of all registrations begins and ends with: the switches are off, and those that another
+    /// thread has set meanwhile are registered again.
+    void forgetSwitches(std::span<uint8_t> lastInds);
+    void registerSwitchedOn(std::span<const int> msgIds, std::span<const uint8_t> lastInds);
+
+    /// Guards what a client remembers of its switches, and their registration. The end of a registration is
+    /// waited for without it, since that may wait for a callback that wants to switch, too.
+    std::mutex mSwitches;
+
     mindroid::sp<VornData> newRequest(uint16_t msgId) const
     {
         return VornData::obtainVornData(msgId, mInstance);
@@ -50,8 +64,8 @@ protected:
     int send(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb,
              ResponseHandler onSuccess)
     {
-        return sendAsyncRequest(request->getData(), std::make_unique<RadioApisAsyncData>(
-                                                        userData, this, cb, nullptr, std::move(onSuccess)));
+        return sendComplete(*request, std::make_unique<RadioApisAsyncData>(userData, this, cb, nullptr,
+                                                                           std::move(onSuccess)));
     }
 
     /// Sends a request whose result record tells of the modem's failure: `fill(in, out)` sees every answer,

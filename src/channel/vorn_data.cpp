@@ -13,18 +13,14 @@ namespace {
 constexpr int kAddRefused = -1;
 constexpr size_t kMaxFieldLength = std::numeric_limits<uint16_t>::max();
 
-vorn_msg_t* copyOf(const vorn_msg_t* message)
-{
-    vorn_msg_t* copy = vorn_msg_copy_hdr(message);
-    if (copy != nullptr) {
-        vorn_msg_copy_tlv(message, copy);
-    }
-    return copy;
-}
-
 } // namespace
 
-VornData::VornData(vorn_msg_t* message, bool copy) : VornView(copy ? copyOf(message) : message) {}
+VornData::VornData(vorn_msg_t* message, bool copy) : VornView(copy ? vorn_msg_copy_hdr(message) : message)
+{
+    if (copy && mMessage != nullptr) {
+        note(vorn_msg_copy_tlv(message, mMessage));
+    }
+}
 
 VornData::VornData(uint16_t msgId, int instance)
     : VornView(vorn_msg_init(msgId, changeToVornSlotId(instance)))
@@ -58,24 +54,26 @@ sp<VornData> VornData::obtainVornData(vorn_msg_t* message, bool copy)
 
 int VornData::addVornTlv(uint16_t tag, uint16_t length, const void* value)
 {
-    return vorn_msg_add_tlv(mMessage, tag, length, value);
+    return note(vorn_msg_add_tlv(mMessage, tag, length, value));
 }
 
 int VornData::addVornTlvStr(uint16_t tag, const char* text)
 {
     const size_t length = std::strlen(text) + 1;
-    return length > kMaxFieldLength ? kAddRefused : addVornTlv(tag, static_cast<uint16_t>(length), text);
+    return length > kMaxFieldLength ? note(kAddRefused)
+                                    : addVornTlv(tag, static_cast<uint16_t>(length), text);
 }
 
 template <typename Element>
 int VornData::addElements(uint16_t tag, uint16_t count, Element element)
 {
-    int result = vorn_msg_add_array(mMessage, tag, count);
+    int result = note(vorn_msg_add_array(mMessage, tag, count));
     for (uint16_t i = 0; i < count; ++i) {
         const std::span<const uint8_t> bytes = element(i);
-        result = bytes.size() > kMaxFieldLength
-                     ? kAddRefused
-                     : vorn_msg_add_idx(mMessage, tag, i, static_cast<uint16_t>(bytes.size()), bytes.data());
+        const auto length = static_cast<uint16_t>(bytes.size());
+        result =
+            note(bytes.size() > kMaxFieldLength ? kAddRefused
+                                                : vorn_msg_add_idx(mMessage, tag, i, length, bytes.data()));
     }
     return result;
 }

@@ -6,7 +6,8 @@
 
 /// A reference-counted message of its own: fields are added in wire order and can be read back. Each add
 /// returns what the modem library's add returned, for arrays that of the last element (of the array itself
-/// when it is empty).
+/// when it is empty). A request need not look at these results: one failed add makes the message incomplete,
+/// and an incomplete message is not sent.
 class VornData : public mindroid::Object, public VornView {
 public:
     VornData() : VornView(nullptr) {}
@@ -21,6 +22,9 @@ public:
     static mindroid::sp<VornData> obtainVornData(uint16_t msgId, int instance);
     static mindroid::sp<VornData> obtainVornData(uint16_t msgId, int instance, uint16_t txId);
     static mindroid::sp<VornData> obtainVornData(vorn_msg_t* message, bool copy);
+
+    /// Whether there is a message, with every field that was to be added to it.
+    bool isComplete() const { return mMessage != nullptr && !mLacksField; }
 
     int addVornTlv(uint16_t tag, uint16_t length, const void* value);
     int addVornTlvStr(uint16_t tag, const char* text); ///< with its terminating NUL
@@ -51,4 +55,13 @@ private:
     /// `element(i)` gives the bytes of element i.
     template <typename Element>
     int addElements(uint16_t tag, uint16_t count, Element element);
+
+    /// Remembers whether an add failed; its result.
+    int note(int result)
+    {
+        mLacksField |= result != 0;
+        return result;
+    }
+
+    bool mLacksField = false;
 };

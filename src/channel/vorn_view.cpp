@@ -56,7 +56,9 @@ std::span<const uint8_t> VornView::bytes(uint16_t tag) const
 
 const char* VornView::getVornStr(uint16_t tag) const
 {
-    return mMessage == nullptr ? nullptr : vorn_msg_get_val_str(mMessage, tag);
+    const std::span<const uint8_t> field = bytes(tag);
+    const bool ends = !field.empty() && std::memchr(field.data(), '\0', field.size()) != nullptr;
+    return ends ? vorn_msg_get_val_str(mMessage, tag) : nullptr;
 }
 
 uint16_t VornView::getVornArrayTlvNum(uint16_t tag) const

@@ -47,7 +47,7 @@ public:
     const uint8_t* getVornVal(uint16_t tag, uint16_t* length) const;
     std::span<const uint8_t> bytes(uint16_t tag) const;
 
-    /// A field as a C string; null when it is absent or not terminated.
+    /// A field as a C string; null when it is absent, or does not end within its length.
     const char* getVornStr(uint16_t tag) const;
 
     /// A field's first bytes as a number; `fallback` when it is absent.

@@ -3,6 +3,13 @@
 
 using radio::kTag;
 
+namespace {
+
+/// In the order in which the client remembers them.
+constexpr int kSwitchedIndications[] = {RadioIndication::NwEtxPower, RadioIndication::MsimSubMode};
+
+} // namespace
+
 VornRadioClient::VornRadioClient(bool, int instance)
     : VornClient(instance, kRadioIndications.data(), static_cast<int>(kRadioIndications.size()))
 {
@@ -21,9 +28,12 @@ int VornRadioClient::registerEvent(RegRadioEvtType request, void*, RadioRequestC
 {
     zorLogD(kTag, "%s slotId:%d, valid %d, ind %d", __func__, mInstance, request.nwEtxPower.valid,
             request.nwEtxPower.ind);
-    bool done = switchIndication(kTag, request.nwEtxPower, mIndicationStates[0], RadioIndication::NwEtxPower);
-    done = switchIndication(kTag, request.msimSubMode, mIndicationStates[1], RadioIndication::MsimSubMode) &&
-           done;
+    const RadioEventSwitch switches[] = {request.nwEtxPower, request.msimSubMode};
+    bool done = true;
+    for (size_t i = 0; i < std::size(switches); ++i) {
+        done = switchIndication(kTag, switches[i], mIndicationStates[i], kSwitchedIndications[i]) && done;
+    }
+    const std::lock_guard lock(mSwitches);
     for (const int msgId : {RadioIndication::DataIfupPacketRoute, RadioIndication::CallRtpSessionMlc}) {
         done = switchOn(kTag, msgId) && done;
     }
@@ -32,11 +42,12 @@ int VornRadioClient::registerEvent(RegRadioEvtType request, void*, RadioRequestC
 
 int VornRadioClient::unregisterEvent()
 {
+    forgetSwitches(mIndicationStates);
     bool done = false;
     for (const int msgId : {RadioIndication::NwEtxPower, RadioIndication::MsimSubMode,
                             RadioIndication::DataIfupPacketRoute, RadioIndication::CallRtpSessionMlc}) {
         done = deregisterVornIndMsg(msgId);
     }
-    mIndicationStates.fill(0);
+    registerSwitchedOn(kSwitchedIndications, mIndicationStates);
     return done ? RADIO_APIS_SUCCESS : RADIO_APIS_FAILURE;
 }

@@ -1,10 +1,8 @@
 /// Atoms: small applications inside the modem that collect data.
 #include "vs/vs_request.h"
 
-#include <array>
 #include <cstddef>
-#include <iterator>
-#include <string>
+#include <cstring>
 
 using vs::kTag;
 
@@ -13,15 +11,15 @@ namespace {
 /// The strings of the record, each up to its end. They are sent without a NUL, and may fill their array.
 int addStrings(VornData& request, uint16_t tag, const RadioLoadAtomApplicationType& application)
 {
-    std::array<std::string, kRadioMaxAtomStrings> texts;
-    std::array<const char*, kRadioMaxAtomStrings> pointers{};
+    constexpr size_t kLength = sizeof application.strings[0];
+    char texts[kRadioMaxAtomStrings][kLength + 1] = {};
+    const char* pointers[kRadioMaxAtomStrings];
     const auto count = cutTo(application.strings, application.stringCount);
     for (uint32_t i = 0; i < count; ++i) {
-        const auto& text = application.strings[i];
-        texts[i].assign(text, std::find(text, std::end(text), '\0'));
-        pointers[i] = texts[i].c_str();
+        std::memcpy(texts[i], application.strings[i], kLength);
+        pointers[i] = texts[i];
     }
-    return request.addVornTlvArrayStr(tag, static_cast<uint16_t>(count), pointers.data());
+    return request.addVornTlvArrayStr(tag, static_cast<uint16_t>(count), pointers);
 }
 
 /// The record is sent as two fields.

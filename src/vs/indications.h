@@ -38,6 +38,15 @@ inline constexpr int RfIccEvent = 0x7E1C;
 
 } // namespace VsIndication
 
+/// With a switch each, in the order in which the client remembers them.
+inline constexpr std::array kOptionalIndications = {
+    VsIndication::Nec,
+    VsIndication::Test,
+    VsIndication::ServingCellInfo,
+    VsIndication::HyperUplinkState,
+    VsIndication::MccChanged,
+};
+
 /// Without a switch: registered together by the first registerEvent. SingleSimChange is not among them; it
 /// arrives only when somebody else registers it.
 inline constexpr int kAlwaysOnIndications[] = {

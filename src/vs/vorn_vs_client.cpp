@@ -16,33 +16,41 @@ VornVsClient::VornVsClient(bool, int instance)
 
 int VornVsClient::init()
 {
+    {
+        const std::lock_guard lock(mSwitches);
+        mAlwaysOnRegistered = 0;
+    }
     unregisterEvent();
-    mAlwaysOnRegistered = 0;
+    const std::lock_guard lock(mSwitches);
+    if (mAlwaysOnRegistered != 0) {
+        registerAlwaysOn(); // another thread did so meanwhile, and may have lost them again
+    }
     return 0;
+}
+
+bool VornVsClient::registerAlwaysOn()
+{
+    bool done = true;
+    for (const int msgId : kAlwaysOnIndications) {
+        done = switchOn(kTag, msgId) && done;
+    }
+    return done;
 }
 
 int VornVsClient::registerEvent(RegVsEvtType request, void*, RadioRequestCallback)
 {
     zorLogD(kTag, "%s slotId:%d, valid %d, ind %d", __func__, mInstance, request.nec.valid, request.nec.ind);
-    const std::pair<RadioEventSwitch, int> switches[] = {
-        {request.nec, VsIndication::Nec},
-        {request.test, VsIndication::Test},
-        {request.servingCellInfo, VsIndication::ServingCellInfo},
-        {request.hyperUplinkState, VsIndication::HyperUplinkState},
-        {request.mccChanged, VsIndication::MccChanged},
-    };
+    const RadioEventSwitch switches[] = {request.nec, request.test, request.servingCellInfo,
+                                         request.hyperUplinkState, request.mccChanged};
     bool done = true;
     for (size_t i = 0; i < std::size(switches); ++i) {
-        done = switchIndication(kTag, switches[i].first, mLastInd[i], switches[i].second) && done;
+        done = switchIndication(kTag, switches[i], mLastInd[i], kOptionalIndications[i]) && done;
     }
+    const std::lock_guard lock(mSwitches);
     if (mAlwaysOnRegistered == 0) {
-        bool allOn = true;
-        for (const int msgId : kAlwaysOnIndications) {
-            allOn = switchOn(kTag, msgId) && allOn;
-        }
         // One that failed leaves the flag clear: the next call tries all of them again.
-        mAlwaysOnRegistered = allOn;
-        done = allOn && done;
+        mAlwaysOnRegistered = registerAlwaysOn();
+        done = mAlwaysOnRegistered != 0 && done;
     }
     return done ? RADIO_APIS_SUCCESS : RADIO_APIS_FAILURE;
 }
@@ -50,10 +58,11 @@ int VornVsClient::registerEvent(RegVsEvtType request, void*, RadioRequestCallbac
 void VornVsClient::unregisterEvent()
 {
     zorLogD(kTag, "%s : enter", __func__);
+    forgetSwitches(mLastInd);
     for (const int msgId : kIndicationsToEnd) {
         deregisterVornIndMsg(msgId);
     }
-    mLastInd.fill(0);
+    registerSwitchedOn(kOptionalIndications, mLastInd);
     zorLogD(kTag, "%s : exit", __func__);
 }
 

@@ -140,6 +140,7 @@ public:
     int setAttachPriority(int a1, int a2, int a3, int a4, int a5, void* userData, RadioRequestCallback cb);
 
 private:
+    bool registerAlwaysOn();
     void logEnter(const char* method) const;
     int setState(const char* cbLine, uint16_t msgId, int state, void* userData, RadioRequestCallback cb);
     int setModemSwitch(const char* name, int on, void* userData, RadioRequestCallback cb);
@@ -150,6 +151,6 @@ private:
     template <typename Fill>
     int query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb, Fill fill);
 
-    std::array<uint8_t, 14> mLastInd{}; ///< per optional indication, what was last asked for
+    std::array<uint8_t, 14> mLastInd{}; ///< of kOptionalIndications: what was last asked for
     uint8_t mAlwaysOnRegistered = 0;
 };

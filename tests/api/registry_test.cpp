@@ -1,6 +1,4 @@
-#include "api/registry.h"
-#include "host/device.h"
-#include "radio_apis/radio_apis.h"
+#include "support/event.h"
 #include "support/request_rows.h"
 
 #include <gmock/gmock.h>
@@ -11,56 +9,36 @@ using namespace test;
 
 namespace {
 
-constexpr auto kModem = RADIO_APIS_SERVICE_MODEM;
-
 struct Registry : testing::Test {
+    Device device;
     FakeModem& modem = FakeModem::instance();
     Caller caller;
     LogCapture log;
-
-    Registry() { host::setProperty("ro.vendor.zor_vorn_support", "1"); }
 
     int request() { return radioGetRRCStatus(&caller, Caller::onResult); }
 };
 
 void noService(RADIO_APIS_SERVICE_TYPE, RAPIS_CONNECT_STATE, void*) {}
-void noEvent(RADIO_EVENT_TYPE, void*, void*, int) {}
 
 } // namespace
 
 TEST_F(Registry, RefusesRequestsWithoutInitialisation)
 {
-    const std::pair<const char*, std::function<int()>> entryPoints[] = {
-        {"radioSendScreenState", [&] { return radioSendScreenState(1, &caller, Caller::onResult); }},
-        {"radioSetMicroMotionState",
-         [&] { return radioSetMicroMotionState(1, 1, &caller, Caller::onResult); }},
-        {"radioSetSarState", [&] { return radioSetSarState(1, 1, &caller, Caller::onResult); }},
-        {"radioGetLteCellInfo", [&] { return radioGetLteCellInfo(&caller, Caller::onResult); }},
-        {"radioGetRRCStatus", [&] { return radioGetRRCStatus(&caller, Caller::onResult); }},
-        {"radioGetServingCellularCellInfo",
-         [&] { return radioGetServingCellularCellInfo(&caller, Caller::onResult); }},
-        {"radioGetAllCellularCellInfo",
-         [&] { return radioGetAllCellularCellInfo(&caller, Caller::onResult); }},
-        {"radioGetServiceMode", [&] { return radioGetServiceMode(&caller, Caller::onResult); }},
-        {"radioSetUimPowerUp", [&] { return radioSetUimPowerUp(&caller, Caller::onResult); }},
-        {"radioSetUimPowerDown", [&] { return radioSetUimPowerDown(&caller, Caller::onResult); }},
-        {"radioSetOosCfg", [&] { return radioSetOosCfg({.option = 100}, &caller, Caller::onResult); }},
-        {"radioReadNv", [&] { return radioReadNv(1, 0, &caller, Caller::onResult); }},
-        {"radioWriteNv", [&] { return radioWriteNv(1, 0, nullptr, 0, &caller, Caller::onResult); }},
-        {"radioRegisterVsEvent", [&] { return radioRegisterVsEvent({}, &caller, Caller::onResult); }},
-        {"radioRegisterRadioEvent", [&] { return radioRegisterRadioEvent({}, &caller, Caller::onResult); }},
+    const std::pair<std::string, Call> entryPoints[] = {
+        {"radioGetServiceMode", call(radioGetServiceMode)},
+        {"radioGetRRCStatus", call(radioGetRRCStatus)},
+        {"radioReadNv", call(radioReadNv, 1, int8_t{0})},
+        {"radioRegisterVsEvent", call(radioRegisterVsEvent, RegVsEvtType{})},
+        {"radioRegisterRadioEvent", call(radioRegisterRadioEvent, RegRadioEvtType{})},
     };
-    for (const auto& [name, call] : entryPoints) {
-        EXPECT_EQ(call(), 1) << name;
-        EXPECT_TRUE(log.has(std::string("E VornApis: ") + name +
-                            " : error : radio api does not init yet for instance 0"))
-            << name;
+    for (const auto& [name, entryPoint] : entryPoints) {
+        EXPECT_EQ(entryPoint(&caller, Caller::onResult), 1) << name;
     }
-    EXPECT_TRUE(
-        log.has("D VornApis: radioGetServingCellularCellInfo : radioGetServingCellularCellInfo tlssubid 0"));
-    EXPECT_TRUE(log.has("D VornApis: radioSetUimPowerUp : radioSetUimPowerUp tlssubid 0"));
-    EXPECT_TRUE(log.has("D VornApis: radioSetUimPowerDown : radioSetUimPowerDown tlssubid 0"));
-    EXPECT_TRUE(log.has("E VornApis: radioSetOosCfg : radioSetOosCfg tlssubid 0"));
+    std::vector<std::string> lines;
+    for (const auto& [name, entryPoint] : entryPoints) {
+        lines.push_back("E VornApis: " + name + " : error : radio api does not init yet for instance 0");
+    }
+    EXPECT_EQ(log.lines(), lines);
     EXPECT_EQ(radioApisReleaseService(kModem), 0);
     EXPECT_EQ(radioApisDeinit(), 0);
     EXPECT_EQ(caller.calls, 0);
@@ -96,13 +74,10 @@ TEST_F(Registry, CreatesClientsOnceAndResetsTheirSubscriptions)
     EXPECT_EQ(radioRegisterVsEvent({.nec = {1, 1}}, nullptr, nullptr), 0);
     EXPECT_TRUE(log.has("D VornApis: radioRegisterVsEvent : radioRegisterVsEvent tlssubid 0"));
     EXPECT_EQ(radioRegisterRadioEvent({}, nullptr, nullptr), 0);
-    static int heard;
-    heard = 0;
-    EXPECT_EQ(registerRadioEvent(RADIO_EVENT_CALL_RTP_SESSION_MLC, nullptr,
-                                 [](RADIO_EVENT_TYPE, void*, void*, int) { ++heard; }),
-              0);
+    Event heard;
+    EXPECT_EQ(registerRadioEvent(RADIO_EVENT_CALL_RTP_SESSION_MLC, &heard, Event::onEvent), 0);
     EXPECT_TRUE(modem.indicate(0x492B, 1, {}));
-    EXPECT_EQ(heard, 1);
+    EXPECT_EQ(heard.calls, 1);
     modem.journal.clear();
     ASSERT_EQ(radioApisInit(kModem, 0), 0);
     EXPECT_EQ(currentClient<VornVsClient>(), client);
@@ -111,15 +86,15 @@ TEST_F(Registry, CreatesClientsOnceAndResetsTheirSubscriptions)
     EXPECT_FALSE(modem.indicate(0x492B, 1, {}));
     EXPECT_EQ(radioRegisterRadioEvent({}, nullptr, nullptr), 0);
     EXPECT_TRUE(modem.indicate(0x492B, 1, {}));
-    EXPECT_EQ(heard, 2); // the listener stayed
+    EXPECT_EQ(heard.calls, 2); // the listener stayed
 }
 
 TEST_F(Registry, ReportsTheChannelsFailure)
 {
-    host::setProperty("ro.vendor.zor_vorn_support", "10");
+    device.setSupport("10");
     EXPECT_EQ(radioApisInit(kModem, 1), 2);
     EXPECT_NE(currentClient<VornRadioClient>(), nullptr);
-    host::setProperty("ro.vendor.zor_vorn_support", "1");
+    device.setSupport("1");
     modem.initResult = -1;
     EXPECT_EQ(radioApisInit(kModem, 1), 1);
     modem.initResult = 0;
@@ -129,7 +104,7 @@ TEST_F(Registry, ReportsTheChannelsFailure)
 TEST_F(Registry, RoutesEventListeners)
 {
     const auto listen = [](int event) {
-        return registerRadioEvent(static_cast<RADIO_EVENT_TYPE>(event), nullptr, noEvent);
+        return registerRadioEvent(static_cast<RADIO_EVENT_TYPE>(event), nullptr, Event::onEvent);
     };
     EXPECT_EQ(registerRadioApisEvent(kModem, nullptr, noService), 0); // needs no instance
     EXPECT_EQ(listen(401), 1);
@@ -147,28 +122,12 @@ TEST_F(Registry, RoutesEventListeners)
     }
 }
 
-TEST_F(Registry, ChoosesTheClientByArguments)
+TEST_F(Registry, KnowsFiveRadioAccessTechnologies)
 {
-    constexpr uint16_t kAt = 3;
     ASSERT_EQ(radioApisInit(kModem, 0), 0);
-    const std::pair<std::function<int()>, bool> calls[] = {
-        {[&] { return radioSetOosCfg({.option = 100}, &caller, Caller::onResult); }, false},
-        {[&] { return radioSetOosCfg({.option = 5}, &caller, Caller::onResult); }, true},
-        {[&] { return radioSetPowerSavingState({.cgType = 3, .type = 600}, &caller, Caller::onResult); },
-         true},
-        {[&] { return radioSetPowerSavingState({.cgType = 3, .type = 5}, &caller, Caller::onResult); },
-         false},
-        {[&] { return radioSetAntForceStateByRat(4, 1, &caller, Caller::onResult); }, true},
-        {[&] { return radioSetAntForceStateByRat(3, 1, &caller, Caller::onResult); }, false},
-    };
-    for (const auto& [request, isAt] : calls) {
-        ASSERT_EQ(request(), 0);
-        EXPECT_EQ(modem.sent.at(0).message->hdr.msg_id == kAt, isAt);
-        modem.answer({result(0)});
-    }
     for (const int rat : {-1, 5}) {
-        EXPECT_EQ(radioSetAntForceStateByRat(rat, 1, &caller, Caller::onResult), 1);
-        EXPECT_TRUE(log.has("D VornApis: radioSetAntForceStateByRat : parameter rat(" + std::to_string(rat) +
-                            ") is invlad"));
+        checkRefusal(call(radioSetAntForceStateByRat, rat, 1), 1,
+                     "D VornApis: radioSetAntForceStateByRat : parameter rat(" + std::to_string(rat) +
+                         ") is invlad");
     }
 }

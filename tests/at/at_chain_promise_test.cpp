@@ -1,6 +1,5 @@
 #include "at/at_chain_promise.h"
 #include "at_fixture.h"
-#include "host/clock.h"
 
 using namespace test;
 using mindroid::make;
@@ -14,8 +13,6 @@ constexpr const char* kCommands[] = {"AT+A", "AT+B", "AT+C"};
 constexpr auto accept = VornAtClient::completeWithResultVoid;
 
 struct AtChains : AtTest {
-    ~AtChains() override { host::Clock::thaw(); }
-
     /// Lets the first `count` commands of a chain succeed.
     void succeed(size_t count)
     {
@@ -26,78 +23,55 @@ struct AtChains : AtTest {
     }
 };
 
-/// The ways in which a command fails, and what the caller is told.
-enum class Failure { Error, NoText, Refused, Disconnected, Throws, NoInterpreter, OwnCode };
-constexpr std::pair<Failure, int> kFailures[] = {
-    {Failure::Error, 1},  {Failure::NoText, 1},        {Failure::Refused, 1}, {Failure::Disconnected, 1},
-    {Failure::Throws, 1}, {Failure::NoInterpreter, 1}, {Failure::OwnCode, 2},
-};
-
-AtResponseCallback::Function failing(Failure failure)
-{
-    switch (failure) {
-    case Failure::Throws:
-        return [](auto&, auto*) -> RADIO_APIS_RESULT { throw std::runtime_error("broken"); };
-    case Failure::NoInterpreter:
-        return nullptr;
-    case Failure::OwnCode:
-        return [](auto&, auto*) { return RADIO_APIS_NOT_SUPPORTED; };
-    default:
-        return accept;
-    }
-}
-
-Fields failingAnswer(Failure failure)
-{
-    switch (failure) {
-    case Failure::NoText:
-        return {result(0)};
-    case Failure::Disconnected:
-        return {result(7)};
-    default:
-        return answer(failure == Failure::Error ? "ERROR" : "OK");
-    }
-}
-
 } // namespace
 
 TEST_F(AtChains, EndOnceWhateverFails)
 {
+    const Fields ok = answer("OK");
+    const struct {
+        AtResponseCallback::Function interpreter;
+        Fields answer; ///< none: the message is refused
+        int code;
+    } failures[] = {
+        {accept, answer("ERROR"), 1},
+        {accept, {result(0)}, 1},
+        {accept, {result(7)}, 1},
+        {accept, {}, 1},
+        {[](auto&, auto*) -> RADIO_APIS_RESULT { throw std::runtime_error("broken"); }, ok, 1},
+        {nullptr, ok, 1},
+        {[](auto&, auto*) { return RADIO_APIS_NOT_SUPPORTED; }, ok, 2},
+    };
     for (size_t position = 0; position < std::size(kCommands); ++position) {
-        for (const auto& row : kFailures) {
-            const Failure failure = row.first;
-            const int code = row.second;
-            SCOPED_TRACE(testing::Message() << "command " << position << " failure " << int(failure));
+        for (const auto& failure : failures) {
+            SCOPED_TRACE(testing::Message() << "command " << position << " failure " << &failure - failures);
+            const bool refused = failure.answer.empty();
             caller = {};
             log.clear();
             const auto chain = make<AtChain>();
             for (size_t i = 0; i < std::size(kCommands); ++i) {
-                chain->add(kCommands[i], i == position ? failing(failure) : accept);
+                chain->add(kCommands[i], i == position ? failure.interpreter : accept);
             }
-            modem.onSend = [&] {
-                // Of the messages taken so far this was the last one before the one to refuse.
-                modem.sendResult = failure == Failure::Refused && position != 0 &&
-                                           command() == std::string(kCommands[position - 1]) + "\r\n"
-                                       ? -1
-                                       : 0;
+            const auto refuseAt = [&](size_t next) {
+                modem.sendResult = refused && next == position ? -1 : 0;
             };
-            modem.sendResult = failure == Failure::Refused && position == 0 ? -1 : 0;
+            modem.onSend = [&, taken = size_t{0}]() mutable { refuseAt(++taken); };
+            refuseAt(0);
             chain->start(client, &caller, Caller::onResult);
             succeed(position);
-            if (failure == Failure::Refused) {
+            if (refused) {
                 drainTimer();
             } else {
                 ASSERT_EQ(modem.sent.size(), 1u);
                 EXPECT_EQ(caller.calls, 0);
-                modem.answer(failingAnswer(failure));
+                modem.answer(failure.answer);
             }
             EXPECT_EQ(caller.calls, 1);
-            EXPECT_EQ(caller.result, code);
+            EXPECT_EQ(caller.result, failure.code);
             EXPECT_TRUE(caller.hadRecord && allZero(caller.record));
             EXPECT_TRUE(modem.sent.empty());
-            const bool told = position + 1 < std::size(kCommands) || failure == Failure::Refused;
+            const bool told = position + 1 < std::size(kCommands) || refused;
             EXPECT_EQ(log.has("E AtChainPromise: processRadioException: radio exception with error no " +
-                              std::to_string(code)),
+                              std::to_string(failure.code)),
                       told);
         }
     }
@@ -174,6 +148,25 @@ TEST_F(AtChains, SucceedWithoutCommandsFromTheTimer)
     EXPECT_EQ(caller.result, 0);
     EXPECT_TRUE(allZero(caller.record));
     EXPECT_TRUE(thread != std::this_thread::get_id());
+}
+
+TEST_F(AtChains, NeedTheSameStackWhateverTheirLength)
+{
+    constexpr int kLength = 30000;
+    for (const char* last : {"OK", "ERROR"}) {
+        const bool succeeds = last == std::string("OK");
+        caller = {};
+        const auto chain = make<AtChain>();
+        for (int i = 0; i < kLength; ++i) {
+            chain->add("AT+A", accept);
+        }
+        chain->start(client, &caller, Caller::onResult);
+        for (int i = 0; i < (succeeds ? kLength : 1); ++i) {
+            modem.answer(answer(last));
+        }
+        EXPECT_EQ(caller.calls, 1);
+        EXPECT_EQ(caller.result, succeeds ? 0 : 1);
+    }
 }
 
 TEST_F(AtChains, TellOtherExceptionsByTheirMessage)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "at/vorn_at_client.h"
+#include "host/clock.h"
 #include "mindroid/promise.h"
 #include "support/request_rows.h"
 
@@ -25,22 +26,30 @@ inline void drainTimer()
 }
 
 struct AtTest : testing::Test {
-    mindroid::sp<VornAtClient> client = mindroid::make<VornAtClient>(false, 1);
+    Instance instance{1};
+    mindroid::sp<VornAtClient> client = mindroid::make<VornAtClient>(false, 1); ///< of the test alone
     FakeModem& modem = FakeModem::instance();
     Caller caller;
     LogCapture log;
 
-    /// The modem outlives the test; what the test made of it must not.
-    ~AtTest() override
+    ~AtTest() override { host::Clock::thaw(); }
+
+    int start(const Call& request)
     {
-        modem.onSend = nullptr;
-        modem.sendResult = 0;
+        caller = {};
+        return request(&caller, Caller::onResult);
     }
 
-    /// The oldest command on its way; empty when there is none.
+    /// The oldest command on its way, alone in a message of the thread's instance; empty when there is none.
     std::string command() const
     {
-        return modem.sent.empty() ? "" : vorn_msg_get_val_str(modem.sent[0].message.get(), 0x8100);
+        if (modem.sent.empty()) {
+            return "";
+        }
+        const vorn_msg_t& sent = *modem.sent[0].message;
+        const std::string command = vorn_msg_get_val_str(&sent, 0x8100);
+        EXPECT_EQ(frame(sent), frame(*message(3, slotBit(tlssubid), 0, {text(0x8100, command)})));
+        return command;
     }
 
     /// Accepts whatever is on its way.

@@ -30,17 +30,17 @@ TEST_F(Bands, AreSetWithTheModemsText)
     };
     for (const auto& row : cases) {
         log.clear();
-        const int refused = client->setBandPrefer(
+        const int refused = radioSetBandPrefer(
             row.rat, row.bands.data(), static_cast<unsigned>(row.bands.size()), &caller, Caller::onResult);
         EXPECT_EQ(refused, row.command == nullptr ? 1 : 0);
         EXPECT_EQ(command(), row.command == nullptr ? "" : row.command);
         EXPECT_EQ(log.has("E VornAtClient: setBandPrefer : unsupported setBandPrefer rat: 2"), row.rat == 2);
         answerAll();
     }
-    EXPECT_EQ(client->setBandPrefer(0, nullptr, 4, &caller, Caller::onResult), 1);
+    EXPECT_EQ(radioSetBandPrefer(0, nullptr, 4, &caller, Caller::onResult), 1);
     // Cut at the room that the command has.
     const Bytes many(400, 0xFF);
-    EXPECT_EQ(client->setBandPrefer(5, many.data(), 400, &caller, Caller::onResult), 0);
+    EXPECT_EQ(radioSetBandPrefer(5, many.data(), 400, &caller, Caller::onResult), 0);
     EXPECT_EQ(command(), "AT+EPBSEH=,,,\"" + std::string(400 + 127 - 14, 'F'));
     answerAll();
 }
@@ -79,7 +79,7 @@ TEST_F(Bands, ArePreferredAsAnswered)
     for (const auto& row : cases) {
         SCOPED_TRACE(row.answer);
         log.clear();
-        ASSERT_EQ(client->getBandPrefer(row.selector, &caller, Caller::onResult), 0);
+        ASSERT_EQ(radioGetBandPrefer(row.selector, &caller, Caller::onResult), 0);
         EXPECT_EQ(command(), row.command);
         modem.answer(answer(row.answer));
         EXPECT_EQ(caller.result, row.result);
@@ -95,13 +95,13 @@ TEST_F(Bands, ArePreferredAsAnswered)
     }
     for (const auto& [rat, text] :
          {std::pair(4, list), std::pair(5, "\r\n+X: 1,2,3," + std::string(514, 'A'))}) {
-        ASSERT_EQ(client->getBandPrefer(rat, &caller, Caller::onResult), 0);
+        ASSERT_EQ(radioGetBandPrefer(rat, &caller, Caller::onResult), 0);
         modem.answer(answer((text + "\r\n\r\nOK\r\n").c_str()));
         EXPECT_EQ(caller.result, 1);
         EXPECT_EQ(caller.record.rsp.bandPrefer.length, 0u);
     }
     for (const int rat : {2, 7, -1}) {
-        EXPECT_EQ(client->getBandPrefer(rat, &caller, Caller::onResult), 1);
+        EXPECT_EQ(radioGetBandPrefer(rat, &caller, Caller::onResult), 1);
         EXPECT_TRUE(log.has("E VornAtClient: getBandPrefer : unsupported getBandPrefer with request rat: " +
                             std::to_string(rat)));
     }
@@ -135,9 +135,13 @@ TEST_F(Bands, AreToldInBitsOfUserInterfaces)
         {0, {{"AT+EPBSE=?", "\r\nERROR\r\n"}}, 1},
         {1, {{"AT+EPBSE=?", "\r\n+EPBSE: 0\r\n\r\nOK\r\n"}}, 1},
         {4, {{"AT+EPBSE=?", "\r\n+EPBSE: 0,0,x\r\n\r\nOK\r\n"}}, 1},
+        {4, {{"AT+EPBSE=?", "\r\n+EPBSE: 1,1\r\n\r\nOK\r\n"}}, 1},
+        {5, {{"AT+EPBSEH=?", "\r\n+EPBSEH: x,x,x,x\r\n\r\nOK\r\n"}}, 1},
+        {5, {{"AT+EPBSEH=?", "\r\n+EPBSEH: 0,0,0,\"0x\"\r\n\r\nOK\r\n"}}, 1},
+        {5, {{"AT+EPBSEH=?", "\r\n+EPBSEH: 0,0,0,\"\"\r\n\r\nOK\r\n"}}, 1},
     };
     for (const auto& row : cases) {
-        ASSERT_EQ(client->getBand(row.nwType, &caller, Caller::onResult), 0);
+        ASSERT_EQ(radioGetBand(row.nwType, &caller, Caller::onResult), 0);
         for (const auto& [expected, reply] : row.exchange) {
             EXPECT_EQ(command(), expected);
             modem.answer(answer(reply));
@@ -147,7 +151,15 @@ TEST_F(Bands, AreToldInBitsOfUserInterfaces)
         EXPECT_EQ(caller.record.rsp.bandInfo.low, row.low);
         EXPECT_EQ(caller.record.rsp.bandInfo.high, row.high);
     }
-    EXPECT_EQ(client->getBand(2, &caller, Caller::onResult), 1);
+    for (const char* mask : {"0x", "\"\"", "x", "1x"}) {
+        ASSERT_EQ(start(call(radioGetBand, 3)), 0);
+        modem.answer(answer("OK"));
+        modem.answer(answer("OK"));
+        modem.answer(answer((std::string("+ECBANDCFG: ") + mask).c_str()));
+        EXPECT_EQ(caller.result, 1) << mask;
+        EXPECT_TRUE(allZero(caller.record)) << mask;
+    }
+    EXPECT_EQ(radioGetBand(2, &caller, Caller::onResult), 1);
     EXPECT_TRUE(log.has("E VornAtClient: unknown rat!"));
 }
 
@@ -157,16 +169,16 @@ TEST_F(Bands, AreListedAndCounted)
                                                  {"\r\n+EPBSE: 1\r\n\r\nOK\r\n", 1},
                                                  {"\r\n+EPBSE: 1,2,a\r\n\r\nOK\r\n", 1}};
     for (const auto& [text, code] : modes) {
-        ASSERT_EQ(client->getAvailableBandModes(&caller, Caller::onResult), 0);
+        ASSERT_EQ(radioGetAvailableBandModes(&caller, Caller::onResult), 0);
         EXPECT_EQ(command(), "AT+EPBSE?");
         modem.answer(answer(text));
         EXPECT_EQ(caller.result, code);
-        holds(code == 0 ? packed(RadioBandModes{1, 2, 2, {3, 4}}) : Bytes())(caller.record.rsp);
+        expectRecord(caller.record.rsp, code == 0 ? packed(RadioBandModes{1, 2, 2, {3, 4}}) : Bytes());
     }
     const std::pair<const char*, int> counts[] = {
         {"+EGMC: \"QueryTxVerifyIdx\",2", 0}, {"+EGMC: 2", 0}, {"+EGMC: 2,x", 1}, {"", 1}};
     for (const auto& [line, code] : counts) {
-        ASSERT_EQ(client->getBandsTxNum(4, 78, 1, &caller, Caller::onResult), 0);
+        ASSERT_EQ(radioGetBandsTxNum(4, 78, 1, &caller, Caller::onResult), 0);
         EXPECT_EQ(command(), "AT\r\n");
         modem.answer(answer("OK"));
         EXPECT_EQ(command(), "AT+EGMC=1,\"QueryTxVerifyIdx\",4,78\r\n");

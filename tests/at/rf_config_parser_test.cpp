@@ -1,6 +1,5 @@
 #include "at/rf_config_parser.h"
 #include "at_fixture.h"
-#include "support/device_root.h"
 
 #include <cstdlib>
 
@@ -11,9 +10,7 @@ namespace {
 
 constexpr char kFile[] = "my_product/etc/rf_feature_config.xml";
 
-struct RfConfig : AtTest {
-    DeviceRoot root;
-};
+using RfConfig = AtTest;
 
 } // namespace
 
@@ -47,7 +44,7 @@ TEST_F(RfConfig, KeepsWhatStoodBeforeAFault)
     };
     for (const auto& row : cases) {
         SCOPED_TRACE(row.file.substr(0, 200));
-        root.write(kFile, row.file);
+        instance.root.write(kFile, row.file);
         log.clear();
         const RfConfigParser parser;
         const auto* commands = parser.getAtCmdByFeatureId(7, 1);
@@ -72,10 +69,11 @@ TEST_F(RfConfig, KnowsItsCommandNames)
 
 TEST_F(RfConfig, FixesAPositionWithTheListedCommands)
 {
-    root.write(kFile, R"(<feature id="3"><atcmd index="0"><cmd command="rat-4">1</cmd><cmd>AT+B</cmd></atcmd>
+    instance.root.write(
+        kFile, R"(<feature id="3"><atcmd index="0"><cmd command="rat-4">1</cmd><cmd>AT+B</cmd></atcmd>
                          <atcmd index="1"/><atcmd index="2"><cmd>AT+A&#10;AT+B</cmd></atcmd></feature>)");
     for (const int code : {0, 1}) {
-        ASSERT_EQ(client->setAsdivFixPosition(3, 0, &caller, Caller::onResult), 0);
+        ASSERT_EQ(radioSetAsdivFixPosition(3, 0, &caller, Caller::onResult), 0);
         EXPECT_EQ(command(), "AT+ETXANT=4,1\r\n");
         modem.answer(answer("OK"));
         EXPECT_EQ(command(), "AT+B\r\n");
@@ -85,10 +83,8 @@ TEST_F(RfConfig, FixesAPositionWithTheListedCommands)
     EXPECT_EQ(caller.calls, 2);
     for (const auto& [feature, index] :
          {std::pair(3, 1), std::pair(3, 2), std::pair(3, 9), std::pair(4, 0)}) {
-        EXPECT_EQ(client->setAsdivFixPosition(feature, index, &caller, Caller::onResult), 1);
+        EXPECT_EQ(radioSetAsdivFixPosition(feature, index, &caller, Caller::onResult), 1);
     }
     EXPECT_TRUE(log.has("E VornAtClient: setAsdivFixPosition : no commands for feature 4, index 0"));
-    EXPECT_EQ(client->setMaxTxPower(1, 2, 3, &caller, Caller::onResult), 1);
-    EXPECT_TRUE(log.has("E VornAtClient: setMaxTxPower : unsupported operation"));
     EXPECT_TRUE(modem.sent.empty());
 }

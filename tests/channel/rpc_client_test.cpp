@@ -70,6 +70,9 @@ TEST_F(Listeners, AreCalledInOrderOnceEach)
     client.notifyEventForAllClient(1, nullptr, 0);
     EXPECT_THAT(calls, ElementsAre(std::pair{'1', &a}, std::pair{'2', &b}));
 
+    EXPECT_EQ(client.registerRadioApisEvent(&a, nullptr), 0);
+    client.radioApiEventCall(RADIO_APIS_SERVICE_MODEM, RAPIS_CONNECTED); // nobody is there to call
+
     calls.clear();
     EXPECT_EQ(client.init(), 0);
     client.notifyEventForAllClient(1, nullptr, 0);

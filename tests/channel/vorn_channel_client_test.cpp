@@ -1,14 +1,12 @@
 #include "channel/vorn_channel_client.h"
-#include "host/device.h"
 #include "host/link_status.h"
-#include "support/device_root.h"
+#include "platform/inbox.h"
 #include "support/fake_modem.h"
+#include "support/instance.h"
 #include "support/log_capture.h"
 
 #include <gmock/gmock.h>
 
-#include <condition_variable>
-#include <mutex>
 
 using namespace test;
 using testing::ElementsAre;
@@ -57,7 +55,7 @@ TEST(ChannelClient, FindsTheDeviceOfItsPlatform)
 
 TEST(ChannelClient, OpensTheMessageLibraryOnce)
 {
-    host::setProperty("ro.vendor.zor_vorn_support", "1");
+    const Device device;
     auto& modem = FakeModem::instance();
     LogCapture log;
     {
@@ -77,8 +75,8 @@ TEST(ChannelClient, OpensTheMessageLibraryOnce)
 TEST(ChannelClient, WantsItsSupportPropertyToBeExactlyOne)
 {
     for (const std::string value : {"", "0", "true", "10", "1 ", " 1", "2"}) {
-        const DeviceRoot root;
-        root.write("default.prop", "ro.vendor.zor_vorn_support=" + value + "\n");
+        const Device device;
+        device.setSupport(value);
         LogCapture log;
         EXPECT_EQ(VornChannelClient(false).init(), 2) << value;
         EXPECT_EQ(log.count("E VornChannelClient: VORN is not supportted, zor_vorn_support=" + value), 2)
@@ -88,50 +86,32 @@ TEST(ChannelClient, WantsItsSupportPropertyToBeExactlyOne)
     EXPECT_THAT(FakeModem::instance().journal, IsEmpty());
 }
 
-namespace {
-
-/// Waits for reports of the status library's thread.
-struct States {
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::vector<int> seen;
-
-    static void onService(RADIO_APIS_SERVICE_TYPE service, RAPIS_CONNECT_STATE state, void* user)
-    {
-        auto& states = *static_cast<States*>(user);
-        const std::lock_guard lock(states.mutex);
-        states.seen.push_back(service * 10 + state);
-        states.changed.notify_all();
-    }
-    void waitFor(const std::vector<int>& expected)
-    {
-        std::unique_lock lock(mutex);
-        changed.wait_for(lock, std::chrono::seconds(30), [&] { return seen.size() >= expected.size(); });
-        EXPECT_EQ(seen, expected);
-    }
-};
-
-} // namespace
-
 TEST(ChannelClient, TellsServiceListenersOfTheModem)
 {
+    using States = Inbox<int>;
+    const auto onService = [](RADIO_APIS_SERVICE_TYPE service, RAPIS_CONNECT_STATE state, void* user) {
+        static_cast<States*>(user)->add(service * 10 + state);
+    };
+    const std::vector<int> upAndLost = {110, 111};
     LogCapture log;
     VornChannelClient client(false);
+    const Device device; // ends the reports to the client
     States one;
     States two;
-    EXPECT_EQ(client.registerRadioApisEvent(&one, States::onService), 0);
-    EXPECT_EQ(client.registerRadioApisEvent(&two, States::onService), 0);
-    EXPECT_EQ(client.registerRadioApisEvent(&two, States::onService), 0);
+    EXPECT_EQ(client.registerRadioApisEvent(&one, onService), 0);
+    EXPECT_EQ(client.registerRadioApisEvent(&two, onService), 0);
+    EXPECT_EQ(client.registerRadioApisEvent(&two, onService), 0);
     EXPECT_TRUE(log.has("D RpcClient: registerRadioApisEvent already in list"));
     EXPECT_TRUE(log.has("D VornChannelClient: VornVsClient::VornVsClient : open libkst.so success"));
     EXPECT_EQ(log.count("D VornChannelClient: registerRadioApisEvent kst register"), 1);
     host::publishLinkState(host::LinkState::Up);
     host::publishLinkState(host::LinkState::Lost);
-    one.waitFor({110, 111});
-    two.waitFor({110, 111});
+    EXPECT_EQ(one.waitFor(2), upAndLost);
+    EXPECT_EQ(two.waitFor(2), upAndLost);
     md_status_event other{2};
     mdStatusEventCb(&client, &other);
     mdStatusEventCb(nullptr, nullptr);
     EXPECT_TRUE(log.has("D VornChannelClient: VornChannelClient::mdStatusEventCb : mdStatusEvent 2"));
-    one.waitFor({110, 111});
+    EXPECT_EQ(one.waitFor(0), upAndLost);
+    host::publishLinkState(host::LinkState::Unknown);
 }

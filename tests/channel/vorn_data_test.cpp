@@ -103,6 +103,42 @@ TEST(VornData, GivesDefaultsForWhatIsAbsent)
     EXPECT_EQ(empty.getVornArrayTlvNum(257), 0);
 }
 
+TEST(VornData, RemembersAFieldThatCouldNotBeAdded)
+{
+    const std::string tooLong(70000, 'A');
+    const char* const texts[] = {tooLong.c_str(), "short"};
+    const std::function<int(VornData&)> adds[] = {
+        [&](VornData& data) { return data.addVornTlvStr(256, tooLong.c_str()); },
+        [](VornData& data) { return data.addVornTlv(256, 4, nullptr); },
+        // The last element's result is that of the whole, and here it succeeds.
+        [&](VornData& data) { return data.addVornTlvArrayStr(256, 2, texts) - 1; },
+    };
+    for (const auto& add : adds) {
+        VornData data(5, 0);
+        data.addVornTlvInt32(1, 1);
+        EXPECT_TRUE(data.isComplete());
+        EXPECT_NE(add(data), 0);
+        data.addVornTlvInt32(2, 2);
+        EXPECT_FALSE(data.isComplete()) << &add - adds;
+    }
+    EXPECT_FALSE(VornData().isComplete());
+}
+
+/// Takes the end of a text on trust, as another maker's message library may.
+extern "C" char* __wrap_vorn_msg_get_val_str(const vorn_msg_t* message, uint16_t tag)
+{
+    return static_cast<char*>(vorn_msg_get_val_ptr(message, tag, nullptr));
+}
+
+TEST(VornData, ReadsNoTextThatDoesNotEndInItsField)
+{
+    const auto in = message(5, 1, 0, {text(256, "ends"), raw(257, {'n', 'o'}), raw(258, {})});
+    EXPECT_STREQ(VornView(in.get()).getVornStr(256), "ends");
+    for (const uint16_t tag : std::initializer_list<uint16_t>{257, 258, 259}) {
+        EXPECT_EQ(VornView(in.get()).getVornStr(tag), nullptr) << tag;
+    }
+}
+
 TEST(VornData, CopiesWhatItMustNotOwn)
 {
     const auto owned = message(5, 2, 9, {result(31), numbers<uint32_t>(257, {1, 2})});

@@ -2,12 +2,14 @@
 #include "host/device.h"
 #include "mindroid/exception.h"
 #include "mindroid/parcel.h"
+#include "zor/log.h"
 #include "zor/property.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <fstream>
+#include <unistd.h>
 
 namespace {
 
@@ -36,6 +38,17 @@ TEST(Parcel, isReadAsItWasWritten)
         EXPECT_EQ(parcel->getString(), i == 50 ? longText : "");
     }
     EXPECT_THROW(parcel->getInt(), ParcelException) << "nothing left";
+}
+
+TEST(Log, raisesNoSignalWhenItsReaderLeaves)
+{
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    close(ends[0]);
+    const int standardError = dup(STDERR_FILENO);
+    dup2(ends[1], STDERR_FILENO);
+    zorLogE("test", "nobody reads this");
+    dup2(standardError, STDERR_FILENO);
 }
 
 TEST(Properties, comeFromTheDeviceRootUnlessSet)

@@ -108,6 +108,18 @@ TEST(AtCommands, TellTheModeOnceItIsReached)
     EXPECT_FALSE(slot.radioOn());
 }
 
+TEST(AtCommands, KnowOneStateOfTheRadio)
+{
+    Slot slot = builtInSlots()[0];
+    slot.modeChangeTime = {};
+    for (const std::string row :
+         {"AT+CFUN=0 00", "AT+EFUN=0 00", "AT+EFUN=2 12", "AT+CFUN=1 12", "AT+EFUN=0 40", "AT+CFUN=1 13"}) {
+        executeAt(slot, row.substr(0, 9));
+        const std::string level = executeAt(slot, "AT+CFUN?").text.substr(9, 1);
+        EXPECT_EQ(level + executeAt(slot, "AT+EFUN?").text.substr(9, 1), row.substr(10)) << row;
+    }
+}
+
 TEST(AtCommands, WithoutSimCard)
 {
     expectAnswers(builtInSlots()[2], {{"AT+CIMI", "\r\n+CME ERROR: 10\r\n"}});

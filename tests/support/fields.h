@@ -21,30 +21,13 @@ Field numeric(uint16_t tag, Number value)
 {
     return [=](vorn_msg_t* message) { vorn_msg_add_tlv(message, tag, sizeof value, &value); };
 }
-inline Field int8(uint16_t tag, int8_t value)
-{
-    return numeric(tag, value);
-}
-inline Field uint8(uint16_t tag, uint8_t value)
-{
-    return numeric(tag, value);
-}
-inline Field int16(uint16_t tag, int16_t value)
-{
-    return numeric(tag, value);
-}
-inline Field uint16(uint16_t tag, uint16_t value)
-{
-    return numeric(tag, value);
-}
-inline Field int32(uint16_t tag, int32_t value)
-{
-    return numeric(tag, value);
-}
-inline Field uint32(uint16_t tag, uint32_t value)
-{
-    return numeric(tag, value);
-}
+
+inline constexpr auto int8 = numeric<int8_t>;
+inline constexpr auto uint8 = numeric<uint8_t>;
+inline constexpr auto int16 = numeric<int16_t>;
+inline constexpr auto uint16 = numeric<uint16_t>;
+inline constexpr auto int32 = numeric<int32_t>;
+inline constexpr auto uint32 = numeric<uint32_t>;
 
 /// Fields of 32 bits each whose ids follow one another.
 inline Fields int32s(uint16_t firstTag, const std::vector<int32_t>& values)
@@ -106,12 +89,13 @@ inline void append(Bytes& to, const Bytes& more)
     to.insert(to.end(), more.begin(), more.end());
 }
 
-/// Bytes one after the other.
-inline Bytes joined(std::initializer_list<Bytes> parts)
+/// Bytes or fields one after the other.
+template <typename Parts = Bytes>
+Parts joined(std::initializer_list<Parts> parts)
 {
-    Bytes all;
-    for (const Bytes& part : parts) {
-        append(all, part);
+    Parts all;
+    for (const Parts& part : parts) {
+        all.insert(all.end(), part.begin(), part.end());
     }
     return all;
 }

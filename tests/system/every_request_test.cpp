@@ -4,6 +4,7 @@
 #include "support/log_capture.h"
 #include "system/examples.h"
 #include "system/modem_use.h"
+#include "vorn/vorn_msg.h"
 
 namespace {
 
@@ -52,6 +53,7 @@ TEST(EveryRequest, BelongsToAnInitialisedInstance)
     expectAllRefused(0);
 
     ASSERT_EQ(radioApisInit(kModem, 2), 0);
+    ASSERT_EQ(vorn_init_debug("test"), 0); // which the library does but once in a process
     {
         const test::LogCapture quiet;
         const std::vector<RequestCall> all = calls();
@@ -67,6 +69,9 @@ TEST(EveryRequest, BelongsToAnInitialisedInstance)
     }
     ASSERT_EQ(radioApisReleaseService(kModem), 0);
     expectAllRefused(2);
+    radioApisInit(kModem, 0); // as it was at the start
+    radioApisReleaseService(kModem);
+    vorn_deinit();
 }
 
 } // namespace

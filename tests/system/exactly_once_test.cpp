@@ -4,7 +4,7 @@
 
 #include "at/at_chain_promise.h"
 #include "host/clock.h"
-#include "host/device.h"
+#include "support/instance.h"
 #include "vs/vorn_vs_client.h"
 
 #include <atomic>
@@ -15,11 +15,12 @@ using namespace std::chrono_literals;
 namespace {
 
 struct ExactlyOnce : testing::Test {
+    test::Device device; // the modem ends with it
+
     ExactlyOnce()
     {
         setenv("RADIO_VORN_DEVICE", "embedded", 1);
         setenv("RADIO_LOG", "off", 1);
-        host::setProperty("ro.vendor.zor_vorn_support", "1");
         EXPECT_EQ(radioApisInit(kModem, 0), 0);
     }
     ~ExactlyOnce() override { host::Clock::thaw(); }
@@ -59,6 +60,7 @@ TEST_F(ExactlyOnce, WhenTheLinkDiesWithManyInFlight)
     static std::mutex mutex;
     static std::condition_variable changed;
     static std::vector<int> states;
+    states.clear();
     registerRadioApisEvent(kModem, nullptr, [](RADIO_APIS_SERVICE_TYPE, RAPIS_CONNECT_STATE state, void*) {
         const std::lock_guard lock(mutex);
         states.push_back(state);

@@ -177,7 +177,7 @@ inline const Example kExamples[] = {
     {"set-aol-scenario 3", ""},
     {"get-sar-sns-data", R"({"values": [0,3]})"},
     {"set-background-search lte off on", ""},
-    {"set-oos-cfg option=1 p7=1 p11=5", ""},
+    {"set-oos-cfg option=1 p7=-1 p8=10000000 p9=-2147483648 p10=-2147483648 p11=-2147483648", ""},
     {"clear-stored-frequency 0", ""},
     {"set-qrxlvmin-cfg option=11 q1=-120 q2=5 q3=-7", ""},
     {"get-qrxlvmin-cfg lte", R"({"rat": 13, "values": [-120,5,-7,0,0,0]})"},

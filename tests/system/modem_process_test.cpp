@@ -5,6 +5,7 @@
 #include "host/clock.h"
 #include "host/device.h"
 #include "host/log_sink.h"
+#include "mindroid/promise.h"
 #include "vorn/vorn_msg.h"
 
 #include <gmock/gmock.h>
@@ -17,10 +18,17 @@
 #include <poll.h>
 #include <random>
 #include <sys/resource.h>
+#include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
 
 using namespace std::chrono_literals;
+
+/// What is started anew in a forked child must be allowed to start there.
+extern "C" const char* __tsan_default_options() // NOLINT(bugprone-reserved-identifier)
+{
+    return "die_after_fork=0";
+}
 
 namespace {
 
@@ -34,6 +42,11 @@ public:
         const std::lock_guard lock(mMutex);
         mAll.push_back(what);
         mChanged.notify_all();
+    }
+    void clear()
+    {
+        const std::lock_guard lock(mMutex);
+        mAll.clear();
     }
     std::vector<int> await(size_t count)
     {
@@ -52,6 +65,7 @@ class ModemSim : public testing::Test {
 protected:
     ModemSim()
     {
+        states.clear();
         setenv("RADIO_LOG", "off", 1);
         host::setProperty("ro.vendor.zor_vorn_support", "1");
         registerRadioApisEvent(kModem, &states, [](auto, RAPIS_CONNECT_STATE state, void* user) {
@@ -59,10 +73,14 @@ protected:
         });
     }
 
+    ~ModemSim() override { vorn_deinit(); }
+
+    /// The library opens its modem once; later tests of a process open theirs themselves.
     void use(const std::string& device)
     {
         setenv("RADIO_VORN_DEVICE", device.c_str(), 1);
         EXPECT_EQ(radioApisInit(kModem, 0), 0);
+        EXPECT_EQ(vorn_init_debug("test"), 0);
     }
 
     /// The whole way to the modem and back.
@@ -89,6 +107,7 @@ TEST_F(ModemSim, IsSharedByPrograms)
     modem.start();
     use(modem.device());
     static Happenings& events = *new Happenings;
+    events.clear();
     registerRadioEvent(RADIO_EVENT_TEST_IND, nullptr,
                        [](auto, auto, void* data, int) { events.note(*static_cast<int*>(data)); });
     ASSERT_EQ(radioRegisterVsEvent({.test = {1, 1}}, nullptr, nullptr), 0);
@@ -129,12 +148,50 @@ TEST_F(ModemSim, KeepsItsNvItemsWhenItIsKilled)
     EXPECT_EQ(radioctl(there + " --json read-nv 77 1 | grep -q 0a0b"), 0);
 }
 
-TEST_F(ModemSim, IsNotStartedTwiceAtOnePlace)
+TEST_F(ModemSim, HasAPlaceOfItsOwn)
 {
     modem.start();
     EXPECT_NE(std::system(("'" MODEM_SIM "' --listen " + modem.device() + " 2>/dev/null").c_str()), 0);
+    soak::ModemProcess successor(MODEM_SIM);
+    successor.start();
+    std::filesystem::rename(successor.socket(), modem.socket());
+    EXPECT_EQ(modem.stop(), 0);
     use(modem.device());
     expectAnswer();
+}
+
+TEST_F(ModemSim, IsRefusedToAForkedChild)
+{
+    // The child looks for no leaks at its exit: what the parent's threads hold is lost there.
+    static int exitStatus = -1;
+    std::atexit([] { exitStatus < 0 ? void() : _exit(exitStatus); });
+    modem.start();
+    use(modem.device());
+    states.await(1);
+    std::promise<void> timerRuns;
+    mindroid::runAfter(0ms, [&] { timerRuns.set_value(); });
+    timerRuns.get_future().wait();
+    const pid_t child = fork();
+    if (child == 0) {
+        alarm(60);
+        Answers answers(2);
+        EXPECT_NE(radioSendScreenState(1, answers.userData(0), Answers::onResult), 0);
+        EXPECT_EQ(radioSetServiceMode(1, answers.userData(1), Answers::onResult), 0) << "a chain";
+        answers.expectOnceEach(1);
+        EXPECT_EQ(answers.failures(), 1U);
+        EXPECT_NE(radioRegisterVsEvent({.test = {1, 1}}, nullptr, nullptr), 0);
+        EXPECT_LT(vorn_host_control(
+                      "{}", [](const char*, void*) {}, nullptr),
+                  0);
+        EXPECT_LT(vorn_init_debug("child"), 0);
+        exitStatus = HasFailure() ? 1 : 0;
+        std::exit(exitStatus);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
+    expectAnswer();
+    EXPECT_EQ(states.await(1).size(), 1U) << "the link was not lost";
 }
 
 /// What becomes of a request that a fault strikes.

@@ -145,6 +145,18 @@ TEST(Radioctl, WatchesCells)
     EXPECT_EQ(std::distance(Lines(run.output.begin(), run.output.end(), serving), Lines()), 2);
 }
 
+/// The modem's block is what the event holds, its counts included.
+TEST(Radioctl, ShowsNoMoreCellsThanTheEventHolds)
+{
+    const std::string block(2 * 4280, 'f');
+    const Ran run = radioctl(
+        "--json events all-cell-info --count 1 --do 'sim indicate all-cell-info cells=" + block + "'");
+    const json cells =
+        json::parse(run.output.substr(run.output.find("{\"time"))).at("record").at("subscriptions");
+    ASSERT_EQ(cells.size(), 2U);
+    EXPECT_EQ(cells[1].at("neighbours").size(), 64U);
+}
+
 TEST(Radioctl, CompletesAndDescribesItself)
 {
     const std::string script = "bash -c '. <(\"" RADIOCTL "\" completion bash); COMP_CWORD=$(($# - 1)); "
@@ -280,6 +292,8 @@ TEST(Radioctl, TellsWhatWentWrong)
         {"set-band-prefer lte 1,3", "", 2, "is not pairs of hexadecimal digits"},
         {"set-band-prefer lte --bands 0", "", 2, "--bands: '0' is not a number from 1"},
         {"set-band-prefer gsm --bands 1", "", 2, "'1' is none of 850, 900, 1800 and 1900"},
+        {"set-band-prefer lte " + std::string(136, '0'), "", 2, "68 bytes, 4 to 64 are allowed"},
+        {"set-band-prefer nr-second " + std::string(224, '0'), "", 2, "112 bytes, 4 to 108 are allowed"},
         {"set-band-prefer lte --bands 6", "", 1, "failed, result 1"},
         {"get-band-prefer nr --now", "", 2, "rat: '--now' is not --current"},
         {"set-asdiv-fix-position 1 9", "", 1, "refused, result 1"},
@@ -317,7 +331,13 @@ TEST(Radioctl, TellsWhatWentWrong)
         {"set-ca-status lte 1", "", 2, "enable: '1' is none of on, off"},
         {"get-ca-status 5g", "", 2, "rat: '5g' is none of lte, nr or a number"},
         {"set-carrier-omacp-fqdn 'a\"b'", "", 1, "refused, result 1"},
-        {"set-carrier-omacp-fqdn " + std::string(256, 'f'), "", 2, "256 characters, at most 255 are allowed"},
+        {"set-carrier-omacp-fqdn " + std::string(225, 'f'), "", 2, "225 characters, at most 224 are allowed"},
+        {"set-black-sanrca-config " + std::string(237, 'n'), "", 2,
+         "237 characters, at most 236 are allowed"},
+        {"set-ust5g-uc-band-config " + std::string(200, '1') + " " + std::string(37, '1'), "", 2,
+         "237 characters, at most 236 are allowed together"},
+        {"set-oos-cfg option=1 p7=10000000 p8=-2147483648 p9=-2147483648 p10=1000000000 p11=1000000", "", 2,
+         "make 224 characters, at most 223"},
         {"set-centric-mode 2", "", 1, "failed, result 1"},
         {"request-icc-sim-authentication data=00", "", 1, "the modem reported a failure"},
         {"get-tx-carkit 1 78 0 0", "", 1, "the modem reported a failure"},

@@ -1,6 +1,5 @@
 /// How network actions lie in their message.
 #include "support/request_rows.h"
-#include "vs/vorn_vs_client.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +7,7 @@ using namespace test;
 
 namespace {
 
-using Row = RequestRow<VornVsClient>;
+using Row = RequestRow;
 
 /// Cells differ in how many entries their lists have, and in whether their optional values are present.
 RadioActionCellInfo cell(uint16_t number)
@@ -72,7 +71,7 @@ Row row(RadioActionConfigType action, int sent, const Fields& cells)
     }
     request.push_back(array(262, blocks));
     request.insert(request.end(), cells.begin(), cells.end());
-    return {"sendNetworkAction", call(&VornVsClient::sendNetworkAction, action), 0x3871, request};
+    return setter("sendNetworkAction", radioSendNetworkAction, 0x3871, request, action);
 }
 
 /// An action with lists of cells, and the numbers of cells that are due on the wire for them.
@@ -100,7 +99,7 @@ Row lists(RadioActionCellList first, RadioActionCellList second, uint8_t firstSe
 
 TEST(VsNetworkActions, AreSentByteForByte)
 {
-    checkRows<VornVsClient>({
+    checkRows({
         row({.parameterCount = 0}, 0, {}),
         row({.parameterCount = 8}, 8, {}),
         row({.parameterCount = 10, .header = 9}, 8, {}),
@@ -110,5 +109,5 @@ TEST(VsNetworkActions, AreSentByteForByte)
         lists({1, 64, {}}, {1, 65, {}}, 64, 64),
         lists({1, 255, {}}, {1, 1, {}}, 64, 1),
     });
-    checkLog<VornVsClient>({row({}, 0, {})}, "VornVsClient", {});
+    checkLog({row({}, 0, {})}, "VornVsClient", {});
 }

@@ -1,6 +1,5 @@
 /// Requests whose answers carry something.
 #include "support/request_rows.h"
-#include "vs/vorn_vs_client.h"
 
 #include <gtest/gtest.h>
 
@@ -10,22 +9,14 @@ using namespace test;
 
 namespace {
 
-using Vs = VornVsClient;
-using Row = RequestRow<Vs>;
+using Row = RequestRow;
+using enum Failure;
 
 std::array<int, 70> gValues = [] {
     std::array<int, 70> values;
     std::iota(values.begin(), values.end(), 1);
     return values;
 }();
-
-/// A request that ends in success whatever the modem says, and its record's first bytes.
-template <typename... Parameters, typename... Arguments>
-Row query(const char* name, int (Vs::*method)(Parameters...), uint16_t id, const Fields& request,
-          const Fields& answer, const Bytes& record, Arguments... arguments)
-{
-    return {name, call(method, arguments...), id, request, answer, holds(record), true};
-}
 
 /// The record of a blob of which `kept` bytes are left.
 Bytes blob(uint32_t kept)
@@ -53,23 +44,24 @@ Row allCells(size_t neighbours, uint32_t kept)
             record.resize(88 + 32 * (i + 1));
         }
     }
-    return query("getAllCellularCellInfo", &Vs::getAllCellularCellInfo, 0x3821, {},
+    return query(Flag, "getAllCellularCellInfo", radioGetAllCellularCellInfo, 0x3821, {},
                  {kServingBlock, array(257, elements)}, record);
 }
 
 Row rrcStatus(const Fields& answer, uint32_t status)
 {
-    return query("getRRCStatus", &Vs::getRRCStatus, 0x3825, {}, answer, packed(status));
+    return query(Untold, "getRRCStatus", radioGetRRCStatus, 0x3825, {}, answer, packed(status));
 }
 
 Row trays(const std::vector<int32_t>& sent, const RadioSimTrayStatus& kept)
 {
-    return query("getSimTrayStatus", &Vs::getSimTrayStatus, 0x3803, {}, {numbers(256, sent)}, packed(kept));
+    return query(Untold, "getSimTrayStatus", radioGetSimTrayStatus, 0x3803, {}, {numbers(256, sent)},
+                 packed(kept));
 }
 
 Row atomData(size_t sent, uint32_t kept)
 {
-    return query("getAtomData", &Vs::getAtomData, 0x3819,
+    return query(Untold, "getAtomData", radioGetAtomData, 0x3819,
                  {int32(256, 5), int32(257, 6), numbers<int32_t>(258, {1, 2})}, {raw(256, counting(sent))},
                  blob(kept), 5, 6, gValues.data(), 2u);
 }
@@ -79,7 +71,7 @@ Row metrics(const Fields& answer, uint32_t kept, const Bytes& values)
     Bytes record = blob(kept);
     record.resize(4 + 16384);
     append(record, values);
-    return query("getMetricsData", &Vs::getMetricsData, 0x382B,
+    return query(Untold, "getMetricsData", radioGetMetricsData, 0x382B,
                  {int32(256, 1), int32(257, 2), int32(259, 3), numbers<int32_t>(258, {1, 2})}, answer, record,
                  1, 2, 3, gValues.data(), 2u);
 }
@@ -95,8 +87,8 @@ Row policies(uint32_t sent, uint32_t kept)
         append(record,
                i < kept ? packed(RadioPolicyConfig{i, 1, 5000 + i, -7, 9, "abcdefghi", 2, "kl"}) : Bytes());
     }
-    return query("getModemIndicationPolicy", &Vs::getModemIndicationPolicy, 0x3839, {}, {raw(256, block)},
-                 record);
+    return query(Untold, "getModemIndicationPolicy", radioGetModemIndicationPolicy, 0x3839, {},
+                 {raw(256, block)}, record);
 }
 
 Row reports(uint32_t sent, uint32_t kept)
@@ -107,8 +99,8 @@ Row reports(uint32_t sent, uint32_t kept)
         append(block, packed(i, 1000 + i));
         append(record, i < kept ? packed(i, 1000 + i) : Bytes());
     }
-    return query("getIndicationReportRecords", &Vs::getIndicationReportRecords, 0x383D, {}, {raw(256, block)},
-                 record);
+    return query(Untold, "getIndicationReportRecords", radioGetIndicationReportRecords, 0x383D, {},
+                 {raw(256, block)}, record);
 }
 
 /// Heaps whose names fill their place.
@@ -120,7 +112,8 @@ Row heaps(uint32_t count)
         append(block, joined({Bytes(20, 'n'), packed(100 + i, 200 + i)}));
         list.heaps[i] = {"nnnnnnnnnnnnnnnnnnn", 100 + i, 200 + i};
     }
-    return query("getModemHeapList", &Vs::getModemHeapList, 0x3845, {}, {raw(256, block)}, packed(list));
+    return query(Untold, "getModemHeapList", radioGetModemHeapList, 0x3845, {}, {raw(256, block)},
+                 packed(list));
 }
 
 /// Is answered with `sent` whole records and some bytes more.
@@ -140,52 +133,52 @@ Row scenes(unsigned asked, unsigned askedSent, int sent, uint32_t kept, size_t m
     for (int i = 0; i < static_cast<int>(kept); ++i) {
         append(record, packed(i, 100 + i));
     }
-    return query("getSceneMode", &Vs::getSceneMode, 0x3877, {raw(256, request)}, {raw(256, block)}, record,
-                 gValues.data(), asked);
+    return query(Untold, "getSceneMode", radioGetSceneMode, 0x3877, {raw(256, request)}, {raw(256, block)},
+                 record, gValues.data(), asked);
 }
 
-Row lock(const char* name, int (Vs::*method)(const unsigned char*, unsigned int, void*, RadioRequestCallback),
+Row lock(const char* name, int (*function)(const unsigned char*, unsigned int, void*, RadioRequestCallback),
          uint16_t id, uint16_t field, size_t sent, uint32_t kept)
 {
     static const Bytes data = counting(300);
-    Row row = query(name, method, id, {raw(field, data)}, {raw(257, counting(sent))}, blob(kept), data.data(),
-                    300u);
-    row.tellsFailureInRecord = false;
-    return row;
+    return query(Result, name, function, id, {raw(field, data)}, {raw(257, counting(sent))}, blob(kept),
+                 data.data(), 300u);
 }
 
 std::vector<Row> queries()
 {
     static const Bytes data = counting(3);
     return {
-        query("setMicroMotionState", &Vs::setMicroMotionState, 0x3805, int32s(256, {4, -5}), {}, {}, 4, -5),
-        query("getLteCellInfo", &Vs::getLteCellInfo, 0x3813, {},
+        query(Flag, "setMicroMotionState", radioSetMicroMotionState, 0x3805, int32s(256, {4, -5}), {}, {}, 4,
+              -5),
+        query(Untold, "getLteCellInfo", radioGetLteCellInfo, 0x3813, {},
               {uint32(256, 1300), uint8(257, 200), uint32(258, 0x100)}, packed(1300, 200, 1)),
         rrcStatus({uint32(256, 2)}, 2),
-        query("getServingCellularCellInfo", &Vs::getServingCellularCellInfo, 0x381F, {}, {kServingBlock},
-              servingCell(0)),
+        query(Flag, "getServingCellularCellInfo", radioGetServingCellularCellInfo, 0x381F, {},
+              {kServingBlock}, servingCell(0)),
         allCells(70, 64),
         trays({7, -8, 9}, {2, {7, -8}}),
         atomData(5000, 4096),
-        query("getFeatureState", &Vs::getFeatureState, 0x381D, {int32(256, -6)}, {uint32(256, 9)}, packed(9),
-              -6),
-        query("getNecData", &Vs::getNecData, 0x3823, {int32(256, 4), numbers<uint8_t>(257, {1, 2, 3})},
-              {raw(256, counting(3000))}, blob(2048), 4, data.data(), 3u),
+        query(Untold, "getFeatureState", radioGetFeatureState, 0x381D, {int32(256, -6)}, {uint32(256, 9)},
+              packed(9), -6),
+        query(Untold, "getNecData", radioGetNecData, 0x3823,
+              {int32(256, 4), numbers<uint8_t>(257, {1, 2, 3})}, {raw(256, counting(3000))}, blob(2048), 4,
+              data.data(), 3u),
         metrics({raw(256, counting(20000)), int32(257, 7), int32(258, 8), int32(259, 9)}, 16384,
                 packed(7, 8, 9)),
         policies(60, 48),
-        query("getModemProtocolInfo", &Vs::getModemProtocolInfo, 0x383B, {}, {raw(256, counting(5000))},
-              blob(4096)),
+        query(Untold, "getModemProtocolInfo", radioGetModemProtocolInfo, 0x383B, {},
+              {raw(256, counting(5000))}, blob(4096)),
         reports(101, 100),
         heaps(50),
-        query("getQosData", &Vs::getQosData, 0x3865, {int32(256, -2)}, {raw(256, counting(3000))}, blob(2048),
-              -2),
-        query("getPowerStatistics", &Vs::getPowerStatistics, 0x386D, {}, {}, {}),
+        query(Untold, "getQosData", radioGetQosData, 0x3865, {int32(256, -2)}, {raw(256, counting(3000))},
+              blob(2048), -2),
+        query(Flag, "getPowerStatistics", radioGetPowerStatistics, 0x386D, {}, {}, {}),
         scenes(70, 64, 70, 64, 0),
-        query("getRfIccInfo", &Vs::getRfIccInfo, 0x3879, {}, {uint8(256, 200), uint16(257, 60000)},
+        query(Untold, "getRfIccInfo", radioGetRfIccInfo, 0x3879, {}, {uint8(256, 200), uint16(257, 60000)},
               {200, 0, 0x60, 0xEA}),
-        query("getSarDsiState", &Vs::getSarDsiState, 0x3899, {}, {int32(256, -4)}, packed(-4)),
-        query("getNetworkActionState", &Vs::getNetworkActionState, 0x3875, {int32(256, -7)},
+        query(Untold, "getSarDsiState", radioGetSarDsiState, 0x3899, {}, {int32(256, -4)}, packed(-4)),
+        query(Untold, "getNetworkActionState", radioGetNetworkActionState, 0x3875, {int32(256, -7)},
               int32s(256, {5, -6, 7}), packed(5, -6, 7), -7),
     };
 }
@@ -206,7 +199,7 @@ std::vector<Row> otherAnswers()
         policies(3, 3),
         reports(0, 0),
         heaps(0),
-        query("no heap list", &Vs::getModemHeapList, 0x3845, {}, {}, {}),
+        query(Untold, "no heap list", radioGetModemHeapList, 0x3845, {}, {}, {}),
         scenes(2, 2, 2, 2, 515),
         scenes(0, 0, 0, 0, 12),
     };
@@ -215,12 +208,12 @@ std::vector<Row> otherAnswers()
 std::vector<Row> locks()
 {
     return {
-        lock("setSmlBlob", &Vs::setSmlBlob, 0x384D, 256, 600, 512),
-        lock("setSmlStatus", &Vs::setSmlStatus, 0x384F, 257, 513, 512),
-        lock("getSmlStatus", &Vs::getSmlStatus, 0x3851, 257, 512, 512),
-        lock("setRlkBlob", &Vs::setRlkBlob, 0x3853, 256, 511, 511),
-        lock("setRlkStatus", &Vs::setRlkStatus, 0x3855, 257, 1, 1),
-        lock("getRlkStatus", &Vs::getRlkStatus, 0x3857, 257, 0, 0),
+        lock("setSmlBlob", radioSetCarrierLockBlob, 0x384D, 256, 600, 512),
+        lock("setSmlStatus", radioSetCarrierLockStatus, 0x384F, 257, 513, 512),
+        lock("getSmlStatus", radioGetCarrierLockStatus, 0x3851, 257, 512, 512),
+        lock("setRlkBlob", radioSetRegionLockBlob, 0x3853, 256, 511, 511),
+        lock("setRlkStatus", radioSetRegionLockStatus, 0x3855, 257, 1, 1),
+        lock("getRlkStatus", radioGetRegionLockStatus, 0x3857, 257, 0, 0),
     };
 }
 
@@ -231,10 +224,13 @@ LogLines lines()
          {"setMicroMotionState - enter. setMicroMotionState microMotionState=4 multiplier=-5"}},
         {"getLteCellInfo", {"getLteCellInfo - enter. slotId=2"}},
         {"getRRCStatus", {"getRRCStatus - enter. slotId=2", "operator() rrc status:2  "}},
-        {"getServingCellularCellInfo", {"getServingCellularCellInfo - enter. slotId=2"}},
+        {"getServingCellularCellInfo",
+         {entered("radioGetServingCellularCellInfo"), "getServingCellularCellInfo - enter. slotId=2"}},
         {"getAllCellularCellInfo", {"getAllCellularCellInfo - enter. slotId=2", "neighbor_cell_info_len:70"}},
         {"getSimTrayStatus", {"getSimTrayStatus - enter", "simTrayStatus[0]=7", "simTrayStatus[1]=-8"}},
-        {"getFeatureState", {"getFeatureState enter", "getFeatureState cb enter"}},
+        {"getFeatureState",
+         {entered("radioGetFeatureState"), "getFeatureState enter", "getFeatureState cb enter"}},
+        {"getNecData", {entered("radioGetNecData"), "getNecData - enter"}},
         {"getSarDsiState", {"getSarDsiState - enter", "operator() sar dsi state:-4  "}},
     };
     for (const std::string name :
@@ -249,7 +245,7 @@ LogLines lines()
 }
 
 struct VsQueries : testing::Test {
-    Vs client{false, 0};
+    Instance instance{0};
     Caller caller;
     FakeModem& modem = FakeModem::instance();
     LogCapture log;
@@ -259,40 +255,24 @@ struct VsQueries : testing::Test {
 
 TEST_F(VsQueries, FillTheirRecord)
 {
-    checkRows(queries());
-    checkRows(locks());
-    checkRows(otherAnswers());
+    checkRows(joined({queries(), locks(), otherAnswers()}));
 }
 
 TEST_F(VsQueries, LogWhatTheyDo)
 {
-    checkLog(queries(), "VornVsClient", lines());
-    checkLog(locks(), "VornVsClient", lines());
-}
-
-TEST_F(VsQueries, TellOfTheModemsFailureInTheRecord)
-{
-    client.getServingCellularCellInfo(&caller, Caller::onResult);
-    modem.answer({result(105), kServingBlock});
-    holds(servingCell(1))(caller.record.rsp);
-    client.setMicroMotionState(1, 1, &caller, Caller::onResult);
-    modem.answer({result(105)});
-    holds(packed(1))(caller.record.rsp);
-    client.getPowerStatistics(&caller, Caller::onResult);
-    modem.answer({result(105)});
-    holds(packed(1))(caller.record.rsp);
+    checkLog(joined({queries(), locks()}), "VornVsClient", lines());
 }
 
 TEST_F(VsQueries, RefuseMoreHeapsThanTheRecordHolds)
 {
     for (const uint32_t count : {51u, 0xFFFFFFFFu}) {
-        client.getModemHeapList(&caller, Caller::onResult);
+        radioGetModemHeapList(&caller, Caller::onResult);
         modem.answer({result(0), raw(256, packed(1, 2, 3, 4, 5, count))});
         EXPECT_EQ(caller.result, RADIO_APIS_INVALID_PARAMETER);
         EXPECT_FALSE(caller.hadRecord);
     }
     EXPECT_EQ(log.count("E VornVsClient: error : invalid param"), 2);
-    client.getModemHeapList(&caller, Caller::onResult);
+    radioGetModemHeapList(&caller, Caller::onResult);
     modem.answer({result(0)});
     EXPECT_TRUE(log.has("E VornVsClient: getModemHeapList cb error, invalid "
                         "VORN_VS_GET_MODEM_HEAP_LIST_CNF_T_INFO"));
@@ -302,7 +282,7 @@ TEST_F(VsQueries, EndWithoutACallWhenThereIsNoAnswer)
 {
     const auto rows = queries();
     for (const Row& row : rows) {
-        row.call(client, &caller, Caller::onResult);
+        row.call(&caller, Caller::onResult);
         modem.answerWith(nullptr);
     }
     EXPECT_EQ(caller.calls, 0);

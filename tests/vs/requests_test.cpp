@@ -8,46 +8,38 @@ using namespace test;
 
 namespace {
 
-using Vs = VornVsClient;
-using Row = RequestRow<Vs>;
+using Row = RequestRow;
 
-template <typename... Parameters, typename... Arguments>
-Row row(const char* name, int (Vs::*method)(Parameters...), uint16_t id, const Fields& fields,
-        Arguments... arguments)
+Row plain(const char* name, int (*function)(int, void*, RadioRequestCallback), uint16_t id)
 {
-    return {name, call(method, arguments...), id, fields};
+    return setter(name, function, id, {int32(256, -3)}, -3);
 }
 
-Row plain(const char* name, int (Vs::*method)(int, void*, RadioRequestCallback), uint16_t id)
+Row plain(const char* name, int (*function)(int, int, void*, RadioRequestCallback), uint16_t id)
 {
-    return row(name, method, id, {int32(256, -3)}, -3);
-}
-
-Row plain(const char* name, int (Vs::*method)(int, int, void*, RadioRequestCallback), uint16_t id)
-{
-    return row(name, method, id, int32s(256, {1, -2}), 1, -2);
+    return setter(name, function, id, int32s(256, {1, -2}), 1, -2);
 }
 
 /// A record that lies in the message as it is.
 template <typename Record>
-Row block(const char* name, int (Vs::*method)(const Record&, void*, RadioRequestCallback), uint16_t id,
+Row block(const char* name, int (*function)(const Record&, void*, RadioRequestCallback), uint16_t id,
           size_t size)
 {
-    return row(name, method, id, {raw(256, counting(size))}, recordOf<Record>(counting(size)));
+    return setter(name, function, id, {raw(256, counting(size))}, recordOf<Record>(counting(size)));
 }
 
 Row redirect(int on, uint8_t sent)
 {
-    return row("setRedirectOptSetting", &Vs::setRedirectOptSetting, 99,
-               {uint8(256, 5), text(258, "SBP_CONTINUOUS_4G5_REDIRECTION_FAILURE"), uint8(259, sent)}, 4, 7,
-               on, 1, 1, 1);
+    return setter("setRedirectOptSetting", &VornVsClient::setRedirectOptSetting, 99,
+                  {uint8(256, 5), text(258, "SBP_CONTINUOUS_4G5_REDIRECTION_FAILURE"), uint8(259, sent)}, 4,
+                  7, on, 1, 1, 1);
 }
 
 Row attach(int on, uint8_t sent)
 {
     constexpr char kName[] = "SBP_MODIFY_NON_DATA_SIM_GMM_ATTACH_PRIORITY_TO_LOW_MSPM_PRIORITY";
-    return row("setAttachPriority", &Vs::setAttachPriority, 99,
-               {uint8(256, 5), text(258, kName), uint8(259, sent)}, 0, 2, on, 0, 1);
+    return setter("setAttachPriority", &VornVsClient::setAttachPriority, 99,
+                  {uint8(256, 5), text(258, kName), uint8(259, sent)}, 0, 2, on, 0, 1);
 }
 
 /// Claims one entry more in each of its lists than they hold.
@@ -63,8 +55,8 @@ Row loadAtom()
     strings[15] = Bytes(64, 'x');
     std::vector<int32_t> values(32);
     values[31] = -7;
-    return row(
-        "loadAtomApplication", &Vs::loadAtomApplication, 0x3815,
+    return setter(
+        "loadAtomApplication", radioLoadAtomApplication, 0x3815,
         {int32(256, 5), int32(258, 6), array(257, strings), numbers(259, values), raw(260, counting(284))},
         application);
 }
@@ -80,16 +72,17 @@ Row hyperUplink()
     const RadioHyperUplinkParasType paras{{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16},
                                           {2, {21, 22, 23}},
                                           {11, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}}};
-    return row("setHyperUplinkParas", &Vs::setHyperUplinkParas, 0x3833, fields, paras);
+    return setter("setHyperUplinkParas", radioSetHyperUplinkParas, 0x3833, fields, paras);
 }
 
 Row atomStatus(const RadioAtomInfoType& info)
 {
     const Bytes bytes = packed(info);
-    return row("setAtomStatus", &Vs::setAtomStatus, 0x3859,
-               {int32(256, 1), int32(257, 2), int32(258, 3), raw(259, {bytes.begin(), bytes.begin() + 324}),
-                raw(260, {bytes.begin() + 324, bytes.end()})},
-               1, 2, 3, info);
+    return setter("setAtomStatus", radioSetAtomStatus, 0x3859,
+                  {int32(256, 1), int32(257, 2), int32(258, 3),
+                   raw(259, {bytes.begin(), bytes.begin() + 324}),
+                   raw(260, {bytes.begin() + 324, bytes.end()})},
+                  1, 2, 3, info);
 }
 
 /// Bytes that count on from record to record.
@@ -108,58 +101,58 @@ std::vector<Row> rows()
     static Bytes bytes = counting(5);
     constexpr uint8_t kModes[] = {1, 2, 3, 254};
     return {
-        plain("sendScreenState", &Vs::sendScreenState, 0x3801),
-        plain("setSyncWithAp", &Vs::setSyncWithAp, 0x380D),
-        plain("unloadAtomApplication", &Vs::unloadAtomApplication, 0x3817),
-        plain("setFeatureState", &Vs::setFeatureState, 0x381B),
-        plain("stopMetricsCollect", &Vs::stopMetricsCollect, 0x3829),
-        plain("setHyperUplinkMode", &Vs::setHyperUplinkMode, 0x382D),
-        plain("setSceneMode", &Vs::setSceneMode, 0x382F),
-        plain("setQoeScore", &Vs::setQoeScore, 0x3831),
-        plain("setSarRegionCode", &Vs::setSarRegionCode, 0x383F),
-        plain("setPowerBoostState", &Vs::setPowerBoostState, 0x383F),
-        plain("setAolState", &Vs::setAolState, 0x3840),
-        plain("setMtplLimitState", &Vs::setMtplLimitState, 0x3841),
-        plain("setAntFixState", &Vs::setAntFixState, 0x3842),
-        plain("setAntBlockState", &Vs::setAntBlockState, 0x3843),
-        plain("rollbackNetworkAction", &Vs::rollbackNetworkAction, 0x3873),
-        plain("setSarState", &Vs::setSarState, 0x3895),
-        plain("setSarDsiState", &Vs::setSarDsiState, 0x3897),
-        plain("setRtSarMode", &Vs::setRtSarMode, 0x389B),
-        block("setModemIndicationPolicy", &Vs::setModemIndicationPolicy, 0x3837, 1588),
-        block("setImsAudioQualityThreshold", &Vs::setImsAudioQualityThreshold, 0x385B, 88),
-        block("setAdaptiveHandoverThreshold", &Vs::setAdaptiveHandoverThreshold, 0x385D, 24),
-        block("setImsRtpInfo", &Vs::setImsRtpInfo, 0x3867, 8),
-        block("setImsRtpThreshold", &Vs::setImsRtpThreshold, 0x3869, 36),
-        block("setSmartIdleCfg", &Vs::setSmartIdleCfg, 0x386B, 20),
-        block("sendRfIccClatKpi", &Vs::sendRfIccClatKpi, 0x387B, 167),
-        block("sendRfIccDeviceErr", &Vs::sendRfIccDeviceErr, 0x387F, 33),
-        row("setPowerSavingState", &Vs::setPowerSavingState, 0x3807,
-            int32s(256, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}), UAIINFO{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}),
-        row("dispatchCase", &Vs::dispatchCase, 0x3809, int32s(256, {-1, 2, 3, 4}), 0xFFFFFFFFu, 2, 3, 4),
-        row("setDiagnoseConfig", &Vs::setDiagnoseConfig, 0x380B,
-            {uint32(256, 7), numbers<int32_t>(257, {1, -2, 3})}, 7u, values, 3u),
-        row("setVeyraConfigPolicy", &Vs::setVeyraConfigPolicy, 0x380F, int32s(256, {1, 2, 3, 4, 5, 6, 7, 8}),
-            VeyraConfigPolicy{{1, 2, 3, 4, 5, 6, 7, 8}}),
-        row("setSidoIssueConfig", &Vs::setSidoIssueConfig, 0x3811,
-            {numbers(256, std::vector<int32_t>(std::begin(values), std::end(values)))}, values, 20u),
-        row("startMetricsCollect", &Vs::startMetricsCollect, 0x3827,
-            {int32(256, 8), numbers<int32_t>(257, {1, -2})}, 8, values, 2u),
-        row("setSiteCellInfo", &Vs::setSiteCellInfo, 0x3835, {raw(256, counting(524))}, 9,
-            recordOf<RadioSiteCellInfoType>(counting(524))),
-        row("setAntForceStateByRat", &Vs::setAntForceStateByRat, 0x3844, {uint8(256, 1), uint8(257, 2)}, 1,
-            1),
-        row("antenna off", &Vs::setAntForceStateByRat, 0x3844, {uint8(256, 3), uint8(257, 1)}, 3, 0),
-        row("setQosReportPeriod", &Vs::setQosReportPeriod, 0x3861, {int32(256, 7)}, 0x500000007L),
-        row("setQosConfig", &Vs::setQosConfig, 0x3863, {uint8(256, 255), raw(257, bytes)}, int8_t{-1},
-            bytes.data(), 5u),
-        row("sendRfIccModeState", &Vs::sendRfIccModeState, 0x387D,
-            {uint8(256, 1), uint8(257, 2), uint8(258, 3), uint8(259, 254)}, kModes[0], kModes[1], kModes[2],
-            kModes[3]),
-        row("setTxPathFilter", &Vs::setTxPathFilter, 0x3881,
-            {uint8(256, 253), uint32(257, 66), uint32(258, 2)}, int8_t{-3}, 66, 2),
-        row("hplmnBgSearch", &Vs::hplmnBgSearch, 0x11B1, {uint16(256, 7)},
-            RadioHplmnBgSearchInfoType{1, 2, 65543}),
+        plain("sendScreenState", radioSendScreenState, 0x3801),
+        plain("setSyncWithAp", radioSetSyncWithAp, 0x380D),
+        plain("unloadAtomApplication", radioUnloadAtomApplication, 0x3817),
+        plain("setFeatureState", radioSetFeatureState, 0x381B),
+        plain("stopMetricsCollect", radioStopMetricsCollect, 0x3829),
+        plain("setHyperUplinkMode", radioSetHyperUplinkMode, 0x382D),
+        plain("setSceneMode", radioSetSceneMode, 0x382F),
+        plain("setQoeScore", radioSetQoeScore, 0x3831),
+        plain("setSarRegionCode", radioSetSarRegionCode, 0x383F),
+        plain("setPowerBoostState", radioSetPowerBoostState, 0x383F),
+        plain("setAolState", radioSetAolState, 0x3840),
+        plain("setMtplLimitState", radioSetMtplLimitState, 0x3841),
+        plain("setAntFixState", radioSetAntFixState, 0x3842),
+        plain("setAntBlockState", radioSetAntBlockState, 0x3843),
+        plain("rollbackNetworkAction", radioRollbackNetworkAction, 0x3873),
+        plain("setSarState", radioSetSarState, 0x3895),
+        plain("setSarDsiState", radioSetSarDsiState, 0x3897),
+        plain("setRtSarMode", radioSetRtSarMode, 0x389B),
+        block("setModemIndicationPolicy", radioSetModemIndicationPolicy, 0x3837, 1588),
+        block("setImsAudioQualityThreshold", radioSetImsAudioQualityThreshold, 0x385B, 88),
+        block("setAdaptiveHandoverThreshold", radioSetAdaptiveHandoverThreshold, 0x385D, 24),
+        block("setImsRtpInfo", radioSetImsRtpInfo, 0x3867, 8),
+        block("setImsRtpThreshold", radioSetImsRtpThreshold, 0x3869, 36),
+        block("setSmartIdleCfg", radioSetSmartIdleCfg, 0x386B, 20),
+        block("sendRfIccClatKpi", radioSendRfIccClatKpi, 0x387B, 167),
+        block("sendRfIccDeviceErr", radioSendRfIccDeviceErr, 0x387F, 33),
+        setter("setPowerSavingState", radioSetPowerSavingState, 0x3807,
+               int32s(256, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}), UAIINFO{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}),
+        setter("dispatchCase", radioDispatchCase, 0x3809, int32s(256, {-1, 2, 3, 4}), 0xFFFFFFFFu, 2, 3, 4),
+        setter("setDiagnoseConfig", radioSetDiagnoseConfig, 0x380B,
+               {uint32(256, 7), numbers<int32_t>(257, {1, -2, 3})}, 7u, values, 3u),
+        setter("setVeyraConfigPolicy", radioSetVeyraConfigPolicy, 0x380F,
+               int32s(256, {1, 2, 3, 4, 5, 6, 7, 8}), VeyraConfigPolicy{{1, 2, 3, 4, 5, 6, 7, 8}}),
+        setter("setSidoIssueConfig", radioSetSidoIssueConfig, 0x3811,
+               {numbers(256, std::vector<int32_t>(std::begin(values), std::end(values)))}, values, 20u),
+        setter("startMetricsCollect", radioStartMetricsCollect, 0x3827,
+               {int32(256, 8), numbers<int32_t>(257, {1, -2})}, 8, values, 2u),
+        setter("setSiteCellInfo", radioSetSiteCellInfo, 0x3835, {raw(256, counting(524))}, 9,
+               recordOf<RadioSiteCellInfoType>(counting(524))),
+        setter("setAntForceStateByRat", radioSetAntForceStateByRat, 0x3844, {uint8(256, 2), uint8(257, 2)}, 2,
+               1),
+        setter("antenna off", radioSetAntForceStateByRat, 0x3844, {uint8(256, 3), uint8(257, 1)}, 3, 0),
+        setter("setQosReportPeriod", radioSetQosReportPeriod, 0x3861, {int32(256, 7)}, 0x500000007L),
+        setter("setQosConfig", radioSetQosConfig, 0x3863, {uint8(256, 255), raw(257, bytes)}, int8_t{-1},
+               bytes.data(), 5u),
+        setter("sendRfIccModeState", radioSendRfIccModeState, 0x387D,
+               {uint8(256, 1), uint8(257, 2), uint8(258, 3), uint8(259, 254)}, kModes[0], kModes[1],
+               kModes[2], kModes[3]),
+        setter("setTxPathFilter", radiosetTxPathFilter, 0x3881,
+               {uint8(256, 253), uint32(257, 66), uint32(258, 2)}, int8_t{-3}, 66, 2),
+        setter("hplmnBgSearch", radioHplmnBgSearch, 0x11B1, {uint16(256, 7)},
+               RadioHplmnBgSearchInfoType{1, 2, 65543}),
         redirect(9, 1),
         redirect(0, 0),
         attach(256, 1),
@@ -167,11 +160,11 @@ std::vector<Row> rows()
         loadAtom(),
         hyperUplink(),
         atomStatus({2, {{11, 12}, {13, 14}, {15, 16}}, 1, {{17, 18}, {19, 20}}}),
-        row("setIndicationConfig", &Vs::setIndicationConfig, 0x385F,
-            {int32(256, 4), array(257, records(5, 64))}, 4,
-            recordOf<RadioIndicationConfigListType>(joined({packed(65), counting(320)}))),
-        row("sendScoreInfo", &Vs::sendScoreInfo, 0x386F, {array(256, records(32, 16))},
-            recordOf<RadioScoreInfoListType>(joined({packed(17), counting(512)}))),
+        setter("setIndicationConfig", radioSetIndicationConfig, 0x385F,
+               {int32(256, 4), array(257, records(5, 64))}, 4,
+               recordOf<RadioIndicationConfigListType>(joined({packed(65), counting(320)}))),
+        setter("sendScoreInfo", radioSendScoreInfo, 0x386F, {array(256, records(32, 16))},
+               recordOf<RadioScoreInfoListType>(joined({packed(17), counting(512)}))),
     };
 }
 
@@ -179,8 +172,9 @@ LogLines lines()
 {
     LogLines lines = {
         {"sendScreenState", {"sendScreenState - enter. slotId=2 screenState=-3"}},
-        {"setSyncWithAp", {"setSyncWithAp - enter  "}},
-        {"setFeatureState", {"setFeatureState enter", "setFeatureState cb enter"}},
+        {"setSyncWithAp", {entered("radioSetSyncWithAp"), "setSyncWithAp - enter  "}},
+        {"setFeatureState",
+         {entered("radioSetFeatureState"), "setFeatureState enter", "setFeatureState cb enter"}},
         {"setSarState", {"setSarState - enter, source=1, state=-2"}},
         {"setSarDsiState", {"setSarDsiState - enter, state=-3"}},
         {"setRtSarMode", {"setRtSarMode - enter, mode=-3"}},
@@ -191,12 +185,16 @@ LogLines lines()
         {"sendRfIccClatKpi", {"sendRfIccClatKpi - enter", "freq:67305985, num:5, subPolicy:6"}},
         {"setPowerSavingState",
          {"setPowerSavingState - enter. setPowerSavingState type=2 op=3 dl=4 ul=5 delay=6 cnt=7"}},
-        {"dispatchCase", {"dispatchCase - enter", "dispatchCase: case=-1 param1=2 param2=3 param3=4"}},
-        {"setSidoIssueConfig", {"setSidoIssueConfig - enter", "operator() - setSidoIssueConfig response  "}},
-        {"setAntForceStateByRat", {"setAntForceStateByRat - enter. slotId=2, rat=1, tas:On,"}},
+        {"dispatchCase",
+         {"D VornApis: radioDispatchCase: enter", "dispatchCase - enter",
+          "dispatchCase: case=-1 param1=2 param2=3 param3=4"}},
+        {"setSidoIssueConfig",
+         {entered("radioSetSidoIssueConfig"), "setSidoIssueConfig - enter",
+          "operator() - setSidoIssueConfig response  "}},
+        {"setAntForceStateByRat", {"setAntForceStateByRat - enter. slotId=2, rat=2, tas:On,"}},
         {"antenna off", {"setAntForceStateByRat - enter. slotId=2, rat=3, tas:Off,"}},
         {"setTxPathFilter", {"setTxPathFilter - enter, rat=-3, band=66, mode=2"}},
-        {"hplmnBgSearch", {"hplmnBgSearch - enter, repeat_interval=65543"}},
+        {"hplmnBgSearch", {entered("radioHplmnBgSearch"), "hplmnBgSearch - enter, repeat_interval=65543"}},
         {"setAtomStatus",
          {"setAtomStatus - enter", "id:1, status:2, subPolicy:3", "atom_mask_config i:0, id:11, mask:12",
           "atom_mask_config i:1, id:13, mask:14", "atom_param_config i:0, id:17, mask:18"}},
@@ -214,7 +212,7 @@ LogLines lines()
 TEST(VsRequests, SendTheirMessageAndEndOnce)
 {
     checkRows(rows());
-    checkRows<Vs>({atomStatus({.maskCount = 0xFFFFFFFF, .parameterCount = 5})});
+    checkRows({atomStatus({.maskCount = 0xFFFFFFFF, .parameterCount = 5})});
 }
 
 TEST(VsRequests, LogWhatTheyDo)

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <stdexcept>
+#include <sys/stat.h>
 
 namespace modem_sim {
 namespace {
@@ -27,9 +28,14 @@ bool isLeftOver(asio::io_context& context, const std::string& path)
         throw std::runtime_error(path + " exists and is no socket");
     }
     asio::error_code error;
-    host::Socket(context).connect(Endpoint(path), error);
-    if (!error) {
+    host::Socket socket(context, Endpoint().protocol());
+    socket.non_blocking(true); // the queue of one that is stopped may be full
+    socket.connect(Endpoint(path), error);
+    if (!error || error == asio::error::no_buffer_space) {
         throw std::runtime_error("somebody listens at " + path + " already");
+    }
+    if (error != asio::error::connection_refused) {
+        throw std::system_error(error);
     }
     return true;
 }
@@ -63,15 +69,26 @@ void Server::listen()
         std::filesystem::remove(mPath);
     }
     mAcceptor = {mContext, Endpoint(mPath)};
+    mSocketFile = fileAt(mPath);
     accept();
 }
 
-/// The file goes as well, so that nobody takes it for a modem that only has no time.
+std::optional<Server::FileId> Server::fileAt(const std::string& path)
+{
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0 ? std::optional(FileId(status.st_dev, status.st_ino))
+                                             : std::nullopt;
+}
+
+/// The file goes as well, so that nobody takes it for a modem that only has no time; but not one that another
+/// modem has put in its place. As long as the socket is open no other file gets its number.
 void Server::stopListening()
 {
     if (mAcceptor.is_open()) {
-        std::error_code ignored;
-        std::filesystem::remove(mPath, ignored);
+        if (mSocketFile && fileAt(mPath) == mSocketFile) {
+            std::error_code ignored;
+            std::filesystem::remove(mPath, ignored);
+        }
         mAcceptor.close();
     }
 }

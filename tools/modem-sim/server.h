@@ -10,6 +10,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <sys/types.h>
+#include <utility>
 
 namespace modem_sim {
 
@@ -38,6 +40,10 @@ private:
     void received(host::Connection& connection, host::MessagePtr message) override;
     void closed(host::Connection& connection, const std::string& reason) override;
 
+    /// A file's place on its disk.
+    using FileId = std::pair<dev_t, ino_t>;
+
+    static std::optional<FileId> fileAt(const std::string& path);
     void listen();
     void stopListening();
     void accept();
@@ -50,6 +56,7 @@ private:
     std::unique_ptr<sim::Trace> mTrace;
     Report mReport;
     asio::local::stream_protocol::acceptor mAcceptor{mContext};
+    std::optional<FileId> mSocketFile;         ///< made by mAcceptor
     asio::steady_timer mModemTimer{mContext};  ///< for what the modem does on its own
     asio::steady_timer mListenTimer{mContext}; ///< until the modem can be reached again
     std::map<sim::ClientId, ConnectionPtr> mClients;

@@ -122,7 +122,11 @@ RequestCall parseRequest(std::span<const std::string> words)
         throw UsageError(
             fmt::format("no request is called '{}'; 'radioctl list' shows them all", words.front()));
     }
-    return {request, Arguments(request->arguments, words.subspan(1))};
+    Arguments arguments(request->arguments, words.subspan(1));
+    if (request->check) {
+        request->check(arguments);
+    }
+    return {request, std::move(arguments)};
 }
 
 Command parseCommand(const std::vector<std::string>& words, bool json)

@@ -30,6 +30,7 @@ struct Request {
     std::function<int(const Arguments& in, Reply to)> send;
     std::function<Json(const Rsp&)> show;                     ///< empty when the answer carries nothing
     std::function<Json(const Arguments&)> showSent = nullptr; ///< for what is written in several forms
+    std::function<void(const Arguments&)> check = nullptr;    ///< of arguments together; throws UsageError
 
     /// The entry point's name on the command line: radioGetLteCellInfo is get-lte-cell-info.
     std::string name() const;

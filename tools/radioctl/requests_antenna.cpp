@@ -14,7 +14,7 @@ inline constexpr auto kMembers<RadioTxCarkit> =
 std::vector<Request> antennaRequests()
 {
     const std::string group = "SAR and antennas";
-    const Argument state = number<int>("state", "0 off, 1 on");
+    const Argument state = number<int>("state", "as the modem defines it");
     return {
         {"radioSetSarState",
          group,
@@ -42,7 +42,7 @@ std::vector<Request> antennaRequests()
          nullptr},
         {"radioSetSarRegionCode",
          group,
-         "Tell the modem the region whose SAR limits hold",
+         "Tell the modem the region whose SAR limits hold; the same message as set-power-boost-state",
          {number<int>("regionCode", "the region's code")},
          call(radioSetSarRegionCode),
          nullptr},
@@ -73,7 +73,8 @@ std::vector<Request> antennaRequests()
         {"radioSetAntForceStateByRat",
          group,
          "Switch forced antenna selection for one radio access technology",
-         {number<int>("rat", "the radio access technology; 4 is NR", 0, 4), state},
+         {number<int>("rat", "the radio access technology; 4 is NR", 0, 4),
+          number<int>("state", "as the modem defines it; with rats 0 to 3 one more is sent")},
          call(radioSetAntForceStateByRat),
          nullptr},
         {"radiosetTxPathFilter",

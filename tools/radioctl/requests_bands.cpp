@@ -8,21 +8,23 @@ namespace {
 struct BandTechnology {
     const char* name;
     RadioBandRat rat;
-    size_t bits;     ///< bits of the shortest list of bands
-    size_t firstBit; ///< the number of the band of bit 0
+    size_t bits;      ///< bits of the shortest list of bands
+    size_t firstBit;  ///< the number of the band of bit 0
+    size_t mostBytes; ///< whose command is never cut; of one number the bytes that are sent
 };
 
 constexpr BandTechnology kTechnologies[] = {
-    {"gsm", RADIO_BAND_GSM, 32, 0},   {"umts", RADIO_BAND_UMTS, 32, 1},
-    {"cdma", RADIO_BAND_CDMA, 32, 0}, {"lte", RADIO_BAND_LTE, 32, 1},
-    {"nr", RADIO_BAND_NR, 128, 1},    {"nr-second", RADIO_BAND_NR_SECOND, 128, 1},
+    {"gsm", RADIO_BAND_GSM, 32, 0, 4},   {"umts", RADIO_BAND_UMTS, 32, 1, 4},
+    {"cdma", RADIO_BAND_CDMA, 32, 0, 4}, {"lte", RADIO_BAND_LTE, 32, 1, 64},
+    {"nr", RADIO_BAND_NR, 128, 1, 112},  {"nr-second", RADIO_BAND_NR_SECOND, 128, 1, 108},
 };
 
 constexpr char kTechnologyNames[] = "gsm, umts, cdma, lte, nr or nr-second";
 constexpr char kBandForms[] =
     R"(    --bands LIST       band numbers with commas between them: --bands 1,3,7 or --bands n78;
                        of gsm 850, 900, 1800 or 1900, of cdma band classes
-    HEX                the bytes themselves, most significant first
+    HEX                the bytes themselves, most significant first: 4 of gsm, umts and cdma, a multiple
+                       of 4 of the others, up to 64 of lte, 112 of nr and 108 of nr-second
 )";
 
 /// Bits of GSM's mask, by the band's name in MHz.
@@ -124,7 +126,7 @@ Argument bandsToSet()
             throw UsageError("bands: RAT --bands LIST or RAT HEX is wanted");
         }
         list.bytes = byNumber ? bytesOfBands(*list.technology, words[2])
-                              : parseBytes("bands", words[1], 4, kRadioMaxBandBytes);
+                              : parseBytes("bands", words[1], 4, list.technology->mostBytes);
         return list;
     };
     return {"bands", kTechnologyNames, "RAT --bands LIST or RAT HEX", parse, true, kBandForms};
@@ -147,7 +149,8 @@ Json showPreferredBands(const Rsp& rsp)
     const auto& record = rsp.bandPrefer;
     const auto* technology =
         std::ranges::find_if(kTechnologies, [&](const auto& known) { return known.rat == record.rat; });
-    Json shown = showBands(*technology, {record.bands, record.length});
+    const size_t length = std::min<size_t>(record.length, std::size(record.bands));
+    Json shown = showBands(*technology, std::span(record.bands).first(length));
     shown["current"] = record.current;
     return shown;
 }

@@ -16,6 +16,22 @@ inline constexpr auto kMembers<RadioCaStatus> = std::tuple{member("caStatus", &R
 template <>
 inline constexpr auto kMembers<RadioDssConfig> = std::tuple{member("value", &RadioDssConfig::value)};
 
+namespace {
+
+/// What the library's commands have room for, besides their own characters.
+constexpr size_t kMostTextBytes = 236;
+
+void checkBands(const Arguments& in)
+{
+    const size_t size = in.at<std::string>(0).size() + in.at<std::string>(1).size();
+    if (size > kMostTextBytes) {
+        throw UsageError(fmt::format("lteBands and nrBands: {} characters, at most {} are allowed together",
+                                     size, kMostTextBytes));
+    }
+}
+
+} // namespace
+
 std::vector<Request> carrierAggregationRequests()
 {
     using Byte = unsigned char;
@@ -23,7 +39,8 @@ std::vector<Request> carrierAggregationRequests()
     const Argument rat = choice<int>("rat", "the radio access technology", {{"lte", 4}, {"nr", 5}});
     const Argument state = choice<Byte>("value", "whether it is on", kOnOff<Byte>);
     const Argument reserve = number<Byte>("reserve", "not sent");
-    const Argument combinations = text("list", "the band combinations, as the modem writes them", 512);
+    const Argument combinations =
+        text("list", "the band combinations, as the modem writes them", kMostTextBytes);
     const Argument value = number<int>("value", "as the modem defines it");
     return {
         {"radioSetCaStatus",
@@ -108,9 +125,12 @@ std::vector<Request> carrierAggregationRequests()
         {"radioSetUst5gUCBandConfig",
          group,
          "Set the bands of user capabilities in 5G",
-         {text("lteBands", "as the modem writes them", 255), text("nrBands", "likewise", 255)},
+         {text("lteBands", "as the modem writes them", kMostTextBytes),
+          text("nrBands", "likewise; both together at most 236 characters", kMostTextBytes)},
          call(radioSetUst5gUCBandConfig),
-         nullptr},
+         nullptr,
+         nullptr,
+         checkBands},
         {"radioSetUst5gUCConfig",
          group,
          "Not supported by the library",

@@ -32,7 +32,8 @@ inline constexpr auto kMembers<RadioOosCfgInfo> = std::tuple{
     member("p4", &RadioOosCfgInfo::p4),
     member("p5", &RadioOosCfgInfo::p5),
     member("p6", &RadioOosCfgInfo::p6),
-    member("p7", &RadioOosCfgInfo::p7, "of p7 to p11 option 100 sends the low 8 bits"),
+    member("p7", &RadioOosCfgInfo::p7,
+           "of p7 to p11 option 100 sends the low 8 bits; in option 1 up to 9 characters each always fit"),
     member("p8", &RadioOosCfgInfo::p8),
     member("p9", &RadioOosCfgInfo::p9),
     member("p10", &RadioOosCfgInfo::p10),
@@ -108,6 +109,26 @@ inline constexpr auto kMembers<RadioNetworkActionState> = std::tuple{
     member("detail", &RadioNetworkActionState::detail),
 };
 
+namespace {
+
+/// The library's command of option 1 repeats its numbers, and must have room for all of them.
+void checkOutOfService(const Arguments& in)
+{
+    constexpr size_t kRoom = 223;
+    const auto& info = in.at<RadioOosCfgInfo>(0);
+    const auto size = [](int32_t number, size_t times) { return std::to_string(number).size() * times; };
+    const size_t needed =
+        size(info.p7, 2) + size(info.p8, 4) + size(info.p9, 6) + size(info.p10, 7) + size(info.p11, 4);
+    if (info.option == 1 && needed > kRoom) {
+        throw UsageError(
+            fmt::format("info: p7 to p11, sent 2, 4, 6, 7 and 4 times, make {} characters, at most {} "
+                        "are allowed",
+                        needed, kRoom));
+    }
+}
+
+} // namespace
+
 std::vector<Request> networkRequests()
 {
     const std::string group = "Search and network actions";
@@ -145,10 +166,12 @@ std::vector<Request> networkRequests()
          show(&Rsp::cellBarring)},
         {"radioSetOosCfg",
          group,
-         "Configure what the modem does while it is out of service; option 100 only",
+         "Configure what the modem does while it is out of service",
          {record<RadioOosCfgInfo>("info", "the values, as the modem defines them")},
          call(radioSetOosCfg),
-         nullptr},
+         nullptr,
+         nullptr,
+         checkOutOfService},
         {"radioSendNetworkAction",
          group,
          "Send an instruction of the device's network optimisation",

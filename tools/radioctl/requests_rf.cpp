@@ -39,7 +39,7 @@ std::vector<Request> rfRequests()
         {"radioSetTasForceIdxByRat",
          group,
          "Force a transmit antenna (not supported by the library)",
-         {rat, number<int>("index", "the antenna"), number<int>("state", "0 off, 1 on"),
+         {rat, number<int>("index", "the antenna"), number<int>("state", "the state"),
           number<int>("mode", "how")},
          call(radioSetTasForceIdxByRat),
          nullptr},

@@ -84,7 +84,7 @@ std::vector<Request> serviceRequests()
         {"radioSetCarrierOmacpFqdn",
          group,
          "Name the gateway of calls over Wi-Fi",
-         {text("fqdn", "its name", 255)},
+         {text("fqdn", "its name", 224)},
          call(radioSetCarrierOmacpFqdn),
          nullptr},
     };

@@ -1,17 +1,20 @@
 #include "host/clock.h"
 
 #include <atomic>
+#include <new>
+#include <pthread.h>
 #include <thread>
-#include <vector>
+#include <utility>
 
 namespace host {
 namespace {
 
-/// A thread inside waitOnce(); lives on that thread's stack.
+/// A thread inside waitOnce(). It lives on that thread's stack, and so does the list: waiting needs no memory.
 struct Waiter {
     std::mutex& mutex;
     std::condition_variable& condition;
     uint64_t wokenIn; ///< the last round that this waiter has heard of
+    Waiter* next;
 };
 
 struct State {
@@ -20,15 +23,27 @@ struct State {
 
     std::mutex mutex; ///< guards the rest, and every change of the above
     Clock::TimePoint frozenAt;
-    std::vector<Waiter*> waiters;
-    uint64_t round = 0; ///< counts the changes that waiters must hear of
+    Waiter* waiters = nullptr; ///< the newest first
+    uint64_t round = 0;        ///< counts the changes that waiters must hear of
 };
+
+void forgetOtherThreads();
 
 /// Never destroyed: threads of the host's libraries may outlive main().
 State& state()
 {
-    static State& instance = *new State;
+    static State& instance = *[] {
+        pthread_atfork(nullptr, nullptr, forgetOtherThreads);
+        return new State;
+    }();
     return instance;
+}
+
+/// In a forked child nobody waits, and nobody would release the mutex that another thread held.
+void forgetOtherThreads()
+{
+    new (&state().mutex) std::mutex;
+    state().waiters = nullptr;
 }
 
 Clock::TimePoint runningTime(const State& clock)
@@ -47,7 +62,7 @@ Clock::TimePoint timeWhileLocked(const State& clock)
 bool tryToWakeWaiters(State& clock, uint64_t round)
 {
     bool allWoken = true;
-    for (Waiter* waiter : clock.waiters) {
+    for (Waiter* waiter = clock.waiters; waiter != nullptr; waiter = waiter->next) {
         if (waiter->wokenIn >= round) {
             continue;
         }
@@ -126,7 +141,7 @@ void Clock::waitOnce(std::condition_variable& condition, std::unique_lock<std::m
                      TimePoint deadline)
 {
     State& clock = state();
-    Waiter self{*lock.mutex(), condition, 0};
+    Waiter self{*lock.mutex(), condition, 0, nullptr};
     std::unique_lock clockLock(clock.mutex);
     if (timeWhileLocked(clock) >= deadline) {
         return;
@@ -134,7 +149,7 @@ void Clock::waitOnce(std::condition_variable& condition, std::unique_lock<std::m
     const bool hasAlarm = deadline != TimePoint::max() && !clock.frozen.load(std::memory_order_relaxed);
     const TimePoint alarm = hasAlarm ? deadline - clock.offset.load(std::memory_order_relaxed) : deadline;
     self.wokenIn = clock.round;
-    clock.waiters.push_back(&self);
+    self.next = std::exchange(clock.waiters, &self);
     clockLock.unlock();
 
     if (hasAlarm) {
@@ -144,7 +159,11 @@ void Clock::waitOnce(std::condition_variable& condition, std::unique_lock<std::m
     }
 
     clockLock.lock();
-    std::erase(clock.waiters, &self);
+    Waiter** place = &clock.waiters;
+    while (*place != &self) {
+        place = &(*place)->next;
+    }
+    *place = self.next;
 }
 
 } // namespace host

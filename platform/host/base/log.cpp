@@ -1,8 +1,10 @@
 #include "android/log.h"
 #include "host/log_sink.h"
+#include "host/quiet_write.h"
 #include "mindroid/log.h"
 #include "zor/log.h"
 
+#include <pthread.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -11,6 +13,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
+#include <new>
 
 namespace {
 
@@ -26,10 +29,14 @@ struct Destination {
     host::LogSink sink;
 };
 
-/// Never destroyed: threads of the host's libraries may log after main() has returned.
+/// Never destroyed: threads of the host's libraries may log after main() has returned. In a forked child the
+/// mutex is a new one: its parent's may be held by a thread that is not there to release it.
 Destination& destination()
 {
-    static Destination& instance = *new Destination;
+    static Destination& instance = *[] {
+        pthread_atfork(nullptr, nullptr, [] { new (&destination().mutex) std::mutex; });
+        return new Destination;
+    }();
     return instance;
 }
 
@@ -87,7 +94,7 @@ void writeLine(const host::LogLine& line)
     std::replace_if(
         text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
     text += '\n';
-    [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, text.data(), text.size());
+    host::writeQuietly(STDERR_FILENO, text);
 }
 
 int logLine(int priority, const char* tag, const char* fmt, va_list arguments) noexcept

@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <set>
+#include <unistd.h>
 
 namespace host {
 
@@ -13,6 +14,7 @@ struct UnixLinks {
     std::mutex mutex; ///< held while a link is opened or closed
     std::set<UnixLink*> links;
     bool isOver = false;
+    const pid_t process = getpid(); ///< a forked child has none of the threads, and must not wait for them
 
     /// Kept for ever, since the threads that open links are.
     static UnixLinks& instance()
@@ -20,7 +22,11 @@ struct UnixLinks {
         static UnixLinks& all = *[] {
             asio::error::get_system_category(); // to be destroyed after what follows was called
             asio::error::get_misc_category();
-            std::atexit([] { instance().stop(); });
+            std::atexit([] {
+                if (getpid() == instance().process) {
+                    instance().stop();
+                }
+            });
             return new UnixLinks;
         }();
         return all;

@@ -5,7 +5,9 @@
 #include "host/vorn_control.h"
 #include "zor/log.h"
 
+#include <atomic>
 #include <cstdlib>
+#include <pthread.h>
 
 namespace {
 
@@ -35,10 +37,28 @@ std::string deviceName()
     return library().device;
 }
 
-/// Runs an operation; none of its exceptions may reach the C caller. `failed` is the result then.
+/// The process was forked from one that had opened the library. It has no delivery thread, the link is its
+/// parent's, and a lock that another thread held stays locked.
+std::atomic<bool> gIsForked = false;
+std::atomic<bool> gHasToldOfFork = false;
+
+void noticeForks()
+{
+    [[maybe_unused]] static const int registered = pthread_atfork(nullptr, nullptr, [] { gIsForked = true; });
+}
+
+/// Runs an operation; none of its exceptions may reach the C caller. `failed` is the result then, and of
+/// everything in a forked child.
 template <typename Result, typename Operation>
 Result guarded(const char* function, Result failed, Operation operation) noexcept
 {
+    if (gIsForked.load(std::memory_order_relaxed)) {
+        if (!gHasToldOfFork.exchange(true)) {
+            zorLogE(kTag, "%s: refused, like everything from now on: the modem was opened before the fork",
+                    function);
+        }
+        return failed;
+    }
     try {
         return operation();
     } catch (const std::exception& error) {
@@ -77,6 +97,7 @@ int vorn_msg_unregister_ind_api(uint8_t slot_id, uint16_t msg_id)
 int vorn_init_debug(const char* name)
 {
     return guarded(__func__, kRefused, [&] {
+        noticeForks();
         const std::string device = deviceName();
         zorLogD(kTag, "%s opens %s", name != nullptr ? name : "a program without a name", device.c_str());
         const auto makeLink = [&](host::LinkEvents& events) { return host::makeLink(device, events); };

@@ -22,8 +22,12 @@ public:
 };
 
 /// Runs a function once after a pause, on the one timer thread of the process; pauses of equal ends run in
-/// the order of their starting. Never from inside the call, not even for a pause of 0.
+/// the order of their starting. Never from inside the call, not even for a pause of 0. Throws where it never runs the
+/// function, for want of memory or of the thread.
 void runAfter(std::chrono::milliseconds pause, std::function<void()> function);
+
+/// What a promise gets whose step threw instead of making one.
+const sp<Exception>& failureOfStep();
 
 /// What other code sees of a promise: something that calls back when it is done.
 template <typename T>
@@ -67,7 +71,7 @@ public:
     }
 
     /// After normal completion runs `next`, whose promise's outcome becomes the returned promise's. An
-    /// exception is passed on without running anything. `next` may not throw.
+    /// exception is passed on without running anything; what `next` throws becomes one.
     sp<Promise> compose(std::function<sp<Thenable<T>>(const T&)> next)
     {
         auto result = make<Promise>();
@@ -76,9 +80,13 @@ public:
                 result->completeExceptionally(exception);
                 return;
             }
-            next(value)->then([result](const T& composed, const sp<Exception>& failure) {
-                result->finish(composed, failure);
-            });
+            try {
+                next(value)->then([result](const T& composed, const sp<Exception>& failure) {
+                    result->finish(composed, failure);
+                });
+            } catch (const std::exception&) {
+                result->completeExceptionally(failureOfStep());
+            }
         });
         return result;
     }
