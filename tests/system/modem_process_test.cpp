@@ -194,6 +194,24 @@ TEST_F(ModemSim, IsRefusedToAForkedChild)
     EXPECT_EQ(states.await(1).size(), 1U) << "the link was not lost";
 }
 
+TEST_F(ModemSim, WaitsForItsPlaceWhenAnotherTookIt)
+{
+    modem.start();
+    use(modem.device());
+    addFault({{"message", "SetSarState"}}, {{"action", "disconnect"}, {"ms", 300}, {"count", 1}});
+    Answers answers(1);
+    ASSERT_EQ(radioSetSarState(1, 3, answers.userData(0), Answers::onResult), 0);
+    answers.expectOnceEach(1);
+    while (std::filesystem::exists(modem.socket())) { // it lets its clients go first
+        std::this_thread::yield();
+    }
+    asio::io_context context;
+    Local::acceptor other(context, Local::endpoint(modem.socket().string()));
+    const Local::socket first = other.accept(); // one is this program, one the modem that looks who is there
+    const Local::socket second = other.accept();
+    EXPECT_EQ(modem.stop(), 0);
+}
+
 /// What becomes of a request that a fault strikes.
 enum class Fate { Answered, Failed, Overdue, LostWithTheLink };
 
@@ -348,6 +366,7 @@ protected:
     void expectRetries(const std::string& reason, Lose lose)
     {
         static Happenings& retries = *new Happenings;
+        retries.clear();
         host::setLogSink([reason](const host::LogLine& line) {
             if (line.text.find(reason) != std::string::npos) {
                 retries.note(1);

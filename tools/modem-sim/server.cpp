@@ -15,6 +15,7 @@ namespace {
 using Endpoint = asio::local::stream_protocol::endpoint;
 
 constexpr std::chrono::milliseconds kAcceptRetry{100};
+constexpr std::chrono::milliseconds kListenRetry{1000};
 
 /// Whether a file stands in the way that a modem left behind which is no more. Throws when it is anything
 /// else.
@@ -197,11 +198,22 @@ void Server::disconnect(std::chrono::milliseconds downFor)
         }
     }
     stopListening();
-    mListenTimer.expires_after(downFor);
+    listenAfter(downFor);
+}
+
+void Server::listenAfter(std::chrono::milliseconds pause)
+{
+    mListenTimer.expires_after(pause);
     mListenTimer.async_wait([this](asio::error_code aborted) {
-        if (!aborted) {
+        if (aborted) {
+            return;
+        }
+        try {
             listen();
             mReport("back again");
+        } catch (const std::exception& error) {
+            mReport(std::string("can't listen again: ") + error.what());
+            listenAfter(kListenRetry);
         }
     });
 }

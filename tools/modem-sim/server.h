@@ -45,6 +45,7 @@ private:
 
     static std::optional<FileId> fileAt(const std::string& path);
     void listen();
+    void listenAfter(std::chrono::milliseconds pause);
     void stopListening();
     void accept();
     void carryOut(host::Connection& commander, const vorn_msg_t& message);
