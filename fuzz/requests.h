@@ -18,8 +18,7 @@ inline void onResult(void* calls, RADIO_APIS_RESULT, RadioApisResultType* record
     ++*static_cast<int*>(calls);
     if (record != nullptr) {
         const auto* bytes = reinterpret_cast<const uint8_t*>(record);
-        volatile int sum = std::accumulate(bytes, bytes + sizeof *record, 0);
-        static_cast<void>(sum);
+        [[maybe_unused]] const volatile int sum = std::accumulate(bytes, bytes + sizeof *record, 0);
     }
 }
 

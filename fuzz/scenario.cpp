@@ -1,5 +1,4 @@
 /// Scenario files: refused with a reason, or good for a modem.
-#include "json.h"
 #include "nobody.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
