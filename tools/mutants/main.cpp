@@ -16,7 +16,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-using mutants::Kind;
 using mutants::kKindNames;
 using mutants::Mutant;
 using mutants::TestProgram;
@@ -50,7 +49,8 @@ PlacesByKind shuffledPlaces(const WorkTree& tree, uint64_t seed)
     PlacesByKind places;
     for (const fs::path& file : tree.librarySources()) {
         for (Mutant& mutant : mutants::mutantsOf(tree.read(file))) {
-            places[static_cast<size_t>(mutant.kind)].push_back({file, std::move(mutant)});
+            auto& kind = places[static_cast<size_t>(mutant.kind)];
+            kind.push_back({file, std::move(mutant)});
         }
     }
     std::mt19937_64 generator(seed);
