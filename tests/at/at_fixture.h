@@ -17,6 +17,12 @@ inline Fields answer(const char* text)
     return {result(0), test::text(0x8100, text)};
 }
 
+/// An answer that accepts a query and holds one line of data.
+inline Fields accepted(const std::string& data)
+{
+    return answer(("\r\n" + data + "\r\n\r\nOK\r\n").c_str());
+}
+
 /// Returns when everything that was due on the timer thread has run.
 inline void drainTimer()
 {

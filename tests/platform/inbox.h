@@ -26,6 +26,12 @@ public:
         return mItems;
     }
 
+    void clear()
+    {
+        const std::lock_guard lock(mMutex);
+        mItems.clear();
+    }
+
 private:
     std::mutex mMutex;
     std::condition_variable mChanged;

@@ -188,25 +188,6 @@ inline void checkHostileAnswers(const RequestRow& row)
     }
 }
 
-/// All of the above, on every instance. An answer of which nothing is read can't be hostile.
-inline void checkRows(const std::vector<RequestRow>& rows)
-{
-    for (unsigned number = 0; number < kInstances; ++number) {
-        const Instance instance(number);
-        for (const RequestRow& row : rows) {
-            checkRow(row, number);
-        }
-    }
-    const Instance instance(0);
-    for (const RequestRow& row : rows) {
-        checkFailures(row);
-        checkEarlyAnswer(row);
-        if (row.failure != Failure::Result || !row.record.empty()) {
-            checkHostileAnswers(row);
-        }
-    }
-}
-
 /// What is logged under a tag, by row; rows that are not listed log that they were entered. Lines of the exported
 /// functions are given in full.
 using LogLines = std::map<std::string, std::vector<std::string>>;
@@ -237,6 +218,26 @@ inline void checkLog(const std::vector<RequestRow>& rows, const std::string& tag
         });
         EXPECT_EQ(logged, expected) << row.name;
     }
+}
+
+/// All of the above, on every instance. An answer of which nothing is read can't be hostile.
+inline void checkRows(const std::vector<RequestRow>& rows, const std::string& tag, const LogLines& lines)
+{
+    for (unsigned number = 0; number < kInstances; ++number) {
+        const Instance instance(number);
+        for (const RequestRow& row : rows) {
+            checkRow(row, number);
+        }
+    }
+    const Instance instance(0);
+    for (const RequestRow& row : rows) {
+        checkFailures(row);
+        checkEarlyAnswer(row);
+        if (row.failure != Failure::Result || !row.record.empty()) {
+            checkHostileAnswers(row);
+        }
+    }
+    checkLog(rows, tag, lines);
 }
 
 /// The line of exported functions that log their instance, as for checkLog.

@@ -1,4 +1,5 @@
 /// The modem in a process of its own: shared by programs, killed, talked to by strangers.
+#include "platform/inbox.h"
 #include "soak/modem_process.h"
 #include "system/modem_use.h"
 
@@ -34,32 +35,7 @@ namespace {
 
 using Local = asio::local::stream_protocol;
 
-/// Waits until something happened so many times.
-class Happenings {
-public:
-    void note(int what)
-    {
-        const std::lock_guard lock(mMutex);
-        mAll.push_back(what);
-        mChanged.notify_all();
-    }
-    void clear()
-    {
-        const std::lock_guard lock(mMutex);
-        mAll.clear();
-    }
-    std::vector<int> await(size_t count)
-    {
-        std::unique_lock lock(mMutex);
-        EXPECT_TRUE(mChanged.wait_for(lock, 60s, [&] { return mAll.size() >= count; }));
-        return mAll;
-    }
-
-private:
-    std::mutex mMutex;
-    std::condition_variable mChanged;
-    std::vector<int> mAll;
-};
+using Happenings = Inbox<int>;
 
 class ModemSim : public testing::Test {
 protected:
@@ -69,7 +45,7 @@ protected:
         setenv("RADIO_LOG", "off", 1);
         host::setProperty("ro.vendor.zor_vorn_support", "1");
         registerRadioApisEvent(kModem, &states, [](auto, RAPIS_CONNECT_STATE state, void* user) {
-            static_cast<Happenings*>(user)->note(state);
+            static_cast<Happenings*>(user)->add(state);
         });
     }
 
@@ -109,11 +85,11 @@ TEST_F(ModemSim, IsSharedByPrograms)
     static Happenings& events = *new Happenings;
     events.clear();
     registerRadioEvent(RADIO_EVENT_TEST_IND, nullptr,
-                       [](auto, auto, void* data, int) { events.note(*static_cast<int*>(data)); });
+                       [](auto, auto, void* data, int) { events.add(*static_cast<int*>(data)); });
     ASSERT_EQ(radioRegisterVsEvent({.test = {1, 1}}, nullptr, nullptr), 0);
     const std::string there = "--device " + modem.device();
     EXPECT_EQ(radioctl(there + " events test --count 1 --do 'sim indicate test --value 7'"), 0);
-    EXPECT_EQ(events.await(1), std::vector<int>{7});
+    EXPECT_EQ(events.waitFor(1), std::vector<int>{7});
 
     EXPECT_EQ(radioctl(there + " set-feature-state 5 17"), 0);
     Answers answers(1);
@@ -234,7 +210,7 @@ TEST_P(ModemFaults, LeaveEachRequestWithOneAnswer)
     Answers answers(2);
     ASSERT_EQ(radioSetSarState(1, 3, answers.userData(0), Answers::onResult), 0);
     if (fate == Fate::LostWithTheLink) {
-        states.await(3); // known, lost, back
+        states.waitFor(3); // known, lost, back
     } else {
         ASSERT_EQ(radioSendScreenState(1, answers.userData(1), Answers::onResult), 0);
     }
@@ -316,12 +292,12 @@ TEST_F(ModemSim, IsTakenForLostWhenItTalksNonsense)
         }
         if (open.empty() || !open.back().is_open()) {
             open.push_back(acceptor.accept());
-            states.await(expected);
+            states.waitFor(expected);
         }
         asio::write(open.back(), asio::buffer(bytes));
         if (ends) {
             expected += 2; // lost and, since somebody still listens, back
-            states.await(expected - 1);
+            states.waitFor(expected - 1);
             open.back().close();
         }
     }

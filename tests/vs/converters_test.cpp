@@ -17,50 +17,41 @@ struct Row {
     Converter converter;
     uint16_t indication;
     int event;
-    size_t size;
     Fields fields;
-    Bytes record; ///< its front; the rest is zero
-    std::string log;
+    Bytes record;
+    std::string log; ///< empty: none
 };
+
+/// A log line that begins with a blank goes on after the converter's name.
+Row row(const char* name, Converter converter, uint16_t indication, int event, const Fields& fields,
+        const Bytes& record, const std::string& log = " - enter")
+{
+    return {name, converter, indication, event, fields, record, log.starts_with(' ') ? name + log : log};
+}
 
 /// A record of the modem's that is copied as it is.
 Row copied(const char* name, Converter converter, uint16_t indication, int event, size_t size,
-           std::string log)
+           const std::string& log = " - enter")
 {
-    return {name,           converter,     indication, event, size, {raw(256, counting(size))},
-            counting(size), std::move(log)};
+    return row(name, converter, indication, event, {raw(256, counting(size))}, counting(size), log);
 }
 
 /// A blob: its length, then its bytes.
 Row blob(const char* name, Converter converter, uint16_t indication, int event, size_t size, uint16_t tag,
-         std::string log, size_t sent = 600)
+         const std::string& log, size_t sent = 600)
 {
     const size_t kept = std::min(sent, size - 4);
-    Bytes record = packed(static_cast<uint32_t>(kept));
-    const Bytes data = counting(sent);
-    record.insert(record.end(), data.begin(), data.begin() + static_cast<long>(kept));
-    return {name, converter, indication, event, size, {raw(tag, data)}, record, std::move(log)};
-}
-
-std::string enter(const char* name)
-{
-    return std::string(name) + " - enter";
-}
-
-Bytes counted(uint32_t count, size_t size)
-{
-    Bytes bytes = packed(count);
-    const Bytes rest = counting(size - 4);
-    bytes.insert(bytes.end(), rest.begin(), rest.end());
-    return bytes;
+    Bytes record = joined({packed(static_cast<uint32_t>(kept)), counting(kept)});
+    record.resize(size);
+    return row(name, converter, indication, event, {raw(tag, counting(sent))}, record, log);
 }
 
 /// A block that claims more than a record holds: its count is cut, the rest is copied.
 Row cut(const char* name, Converter converter, uint16_t indication, int event, size_t size, uint32_t most)
 {
-    return {
-        name,       converter, indication, event, size, {raw(256, counted(1000, size))}, counted(most, size),
-        enter(name)};
+    const Bytes rest = counting(size - 4);
+    return row(name, converter, indication, event, {raw(256, joined({packed(1000), rest}))},
+               joined({packed(most), rest}));
 }
 
 std::vector<Row> rows()
@@ -72,109 +63,62 @@ std::vector<Row> rows()
     iccRecord[4] = 128;
     return {
         blob("vornVsClientNotifySmlStatusIndEvent", vornVsClientNotifySmlStatusIndEvent, 0x7E0C, 436, 516,
-             257, "vornVsClientNotifySmlStatusIndEvent - RADIO_EVENT_SML_STATUS_IND"),
+             257, " - RADIO_EVENT_SML_STATUS_IND"),
         blob("vornVsClientNotifyRlkStatusIndEvent", vornVsClientNotifyRlkStatusIndEvent, 0x7E0D, 437, 516,
-             257, "vornVsClientNotifyRlkStatusIndEvent - RADIO_EVENT_RLK_STATUS_IND", 3),
+             257, " - RADIO_EVENT_RLK_STATUS_IND", 3),
         blob("vornVsClientNotifyNecEvent", vornVsClientNotifyNecEvent, 0x7E01, 403, 2052, 256,
-             "vornVsClientNotifyNecEvent - RADIO_EVENT_NEC_IND", 3000),
-        {"vornVsClientNotifyVeyraInfoIndEvent",
-         vornVsClientNotifyVeyraInfoIndEvent,
-         0x7E03,
-         409,
-         35208,
-         {},
-         {},
-         "vornVsClientNotifyNecEvent - RADIO_EVENT_VEYRA_CELL_INFO_IND"},
-        {"vornVsClientNotifyTestIndEvent",
-         vornVsClientNotifyTestIndEvent,
-         0x7E02,
-         419,
-         4,
-         {int32(256, -7)},
-         packed(-7),
-         "vornVsClientNotifyTestIndEvent - RADIO_EVENT_TEST_IND data -7"},
-        {"vornVsClientNotifyVeyraEvevtIndEvent",
-         vornVsClientNotifyVeyraEvevtIndEvent,
-         0x7E04,
-         410,
-         4,
-         {int32(256, 8)},
-         packed(8),
-         "vornVsClientNotifyVeyraEvevtIndEvent data 8"},
+             " - RADIO_EVENT_NEC_IND", 3000),
+        row("vornVsClientNotifyVeyraInfoIndEvent", vornVsClientNotifyVeyraInfoIndEvent, 0x7E03, 409, {},
+            Bytes(35208), "vornVsClientNotifyNecEvent - RADIO_EVENT_VEYRA_CELL_INFO_IND"),
+        row("vornVsClientNotifyTestIndEvent", vornVsClientNotifyTestIndEvent, 0x7E02, 419, {int32(256, -7)},
+            packed(-7), " - RADIO_EVENT_TEST_IND data -7"),
+        row("vornVsClientNotifyVeyraEvevtIndEvent", vornVsClientNotifyVeyraEvevtIndEvent, 0x7E04, 410,
+            {int32(256, 8)}, packed(8), " data 8"),
         copied("vornVsClientNotifySidoIssueIndEvent", vornVsClientNotifySidoIssueIndEvent, 0x7E05, 414, 84,
                "vornVsClientNotifySidoIssueIndEvent"),
-        {"vornVsClientNotifyHstModeIndEvent",
-         vornVsClientNotifyHstModeIndEvent,
-         0x7E09,
-         424,
-         4,
-         {int32(256, 1)},
-         packed(1),
-         "vornVsClientNotifyHstModeIndEvent - VORN_VS_HST_MODE_IND_T_HST_MODE data 1"},
+        row("vornVsClientNotifyHstModeIndEvent", vornVsClientNotifyHstModeIndEvent, 0x7E09, 424,
+            {int32(256, 1)}, packed(1), " - VORN_VS_HST_MODE_IND_T_HST_MODE data 1"),
         copied("vornVsClientNotifyServingCellInfoIndEvent", vornVsClientNotifyServingCellInfoIndEvent, 0x7E06,
                425, 88, "vornVsClientNotifyServingCellInfoIndEvent"),
-        {"vornVsClientNotifyHyperUplinkStateIndEvent",
-         vornVsClientNotifyHyperUplinkStateIndEvent,
-         0x7E07,
-         426,
-         12,
-         {int32(256, 1), int32(257, 2), uint8(258, 3)},
-         packed(1, 2, 3),
-         "vornVsClientNotifyHyperUplinkStateIndEvent - RADIO_EVENT_HYPER_UPLINK_STATE_IND scene 1,state "
-         "2,type 3"},
+        row("vornVsClientNotifyHyperUplinkStateIndEvent", vornVsClientNotifyHyperUplinkStateIndEvent, 0x7E07,
+            426, {int32(256, 1), int32(257, 2), uint8(258, 3)}, packed(1, 2, 3),
+            " - RADIO_EVENT_HYPER_UPLINK_STATE_IND scene 1,state 2,type 3"),
         blob("vornVsClientNotifyAtomDataIndEvent", vornVsClientNotifyAtomDataIndEvent, 0x7E08, 427, 4100, 256,
-             "vornVsClientNotifyAtomDataIndEvent radioEvent.event.atomDataInd.data_len 4096 , len 5000",
-             5000),
+             " radioEvent.event.atomDataInd.data_len 4096 , len 5000", 5000),
         copied("vornVsClientNotifyImsRtpControlIndEvent", vornVsClientNotifyImsRtpControlIndEvent, 0x7E16,
-               428, 2, enter("vornVsClientNotifyImsRtpControlIndEvent")),
-        {"vornVsClentNotifyOlogIndEvent",
-         vornVsClentNotifyOlogIndEvent,
-         0x7E0A,
-         430,
-         8,
-         {int32(256, 9), int32(257, 1)},
-         packed(9, 1),
-         "vornVsClientNotifyAtomDataIndEvent VORN_VS_OLOG_IND_T_DATA_LEN : 9 , VORN_VS_OLOG_IND_T_DATA_LOST "
-         ": 1"},
+               428, 2),
+        row("vornVsClentNotifyOlogIndEvent", vornVsClentNotifyOlogIndEvent, 0x7E0A, 430,
+            {int32(256, 9), int32(257, 1)}, packed(9, 1),
+            "vornVsClientNotifyAtomDataIndEvent VORN_VS_OLOG_IND_T_DATA_LEN : 9 , "
+            "VORN_VS_OLOG_IND_T_DATA_LOST : 1"),
         copied("vornVsClentNotifySingleSimChangeIndEvent", vornVsClentNotifySingleSimChangeIndEvent, 0x7E0B,
-               435, 1, enter("vornVsClentNotifySingleSimChangeIndEvent")),
-        copied("vornVsClentNotifyMccChangedIndEvent", vornVsClentNotifyMccChangedIndEvent, 0x7E0E, 423, 8,
-               enter("vornVsClentNotifyMccChangedIndEvent")),
-        {"vornVsClentNotifyAlertEventIndEvent",
-         vornVsClentNotifyAlertEventIndEvent,
-         0x7E0F,
-         438,
-         28,
-         {int32(256, 1), int32(257, 2), numbers<int32_t>(258, {3, 4, 5, 6, 7, 8})},
-         packed(1, 2, 3, 4, 5, 6, 7),
-         enter("vornVsClentNotifyAlertEventIndEvent")},
-        copied("vornVsClentNotifyVodataEventIndEvent", vornVsClentNotifyVodataEventIndEvent, 0x7E11, 440, 8,
-               enter("vornVsClentNotifyVodataEventIndEvent")),
+               435, 1),
+        copied("vornVsClentNotifyMccChangedIndEvent", vornVsClentNotifyMccChangedIndEvent, 0x7E0E, 423, 8),
+        row("vornVsClentNotifyAlertEventIndEvent", vornVsClentNotifyAlertEventIndEvent, 0x7E0F, 438,
+            {int32(256, 1), int32(257, 2), numbers<int32_t>(258, {3, 4, 5, 6, 7, 8})},
+            packed(1, 2, 3, 4, 5, 6, 7)),
+        copied("vornVsClentNotifyVodataEventIndEvent", vornVsClentNotifyVodataEventIndEvent, 0x7E11, 440, 8),
         copied("vornVsClentNotifyCallStateChangeIndEvent", vornVsClentNotifyCallStateChangeIndEvent, 0x7E13,
                442, 8, ""),
         copied("vornVsClentNotifyAllCellInfoIndEvent", vornVsClentNotifyAllCellInfoIndEvent, 0x7E12, 441,
-               4280, enter("vornVsClentNotifyAllCellInfoIndEvent")),
+               4280),
         blob("vornVsClientNotifyQosPeriodReportIndEvent", vornVsClientNotifyQosPeriodReportIndEvent, 0x7E14,
-             420, 2052, 256, enter("vornVsClientNotifyQosPeriodReportIndEvent"), 0),
+             420, 2052, 256, " - enter", 0),
         blob("vornVsClientNotifyQosEventReportIndEvent", vornVsClientNotifyQosEventReportIndEvent, 0x7E15,
-             421, 2052, 256, enter("vornVsClientNotifyQosEventReportIndEvent"), 2048),
+             421, 2052, 256, " - enter", 2048),
         cut("vornVsClentNotifyNetworkActionResultIndEvent", vornVsClentNotifyNetworkActionResultIndEvent,
             0x7E17, 443, 452, 16),
         cut("vornVsClentNotifySceneModeIndEvent", vornVsClentNotifySceneModeIndEvent, 0x7E18, 444, 516, 128),
         copied("vornVsClentNotifySmartNetworkSelectIndEvent", vornVsClentNotifySmartNetworkSelectIndEvent,
-               0x7E19, 445, 12, enter("vornVsClentNotifySmartNetworkSelectIndEvent")),
+               0x7E19, 445, 12),
         copied("vornVsClientNotifyRfIccClatIndEvent", vornVsClientNotifyRfIccClatIndEvent, 0x7E1A, 433, 6,
                icc),
         copied("vornVsClientNotifyRfIccTxSharingIndEvent", vornVsClientNotifyRfIccTxSharingIndEvent, 0x7E1B,
                434, 12, icc),
-        {"vornVsClientNotifyRfIccEventIndEvent",
-         vornVsClientNotifyRfIccEventIndEvent,
-         0x7E1C,
-         446,
-         136,
-         {raw(256, iccEvent)},
-         iccRecord,
-         "vronVsClientNotifyRfIccEventIndEvent - RADIO_EVENT_RF_ICC_EVENT_IND event 67305985, data_len 128"},
+        row("vornVsClientNotifyRfIccEventIndEvent", vornVsClientNotifyRfIccEventIndEvent, 0x7E1C, 446,
+            {raw(256, iccEvent)}, iccRecord,
+            "vronVsClientNotifyRfIccEventIndEvent - RADIO_EVENT_RF_ICC_EVENT_IND event 67305985, data_len "
+            "128"),
     };
 }
 
@@ -201,9 +145,7 @@ TEST(VsConverters, MakeTheirRecords)
         client.deregisterRadioEvent(event, Event::onEvent);
         EXPECT_EQ(seen.calls, 1);
         EXPECT_EQ(seen.event, row.event);
-        Bytes expected = row.record;
-        expected.resize(row.size);
-        EXPECT_EQ(seen.record, expected);
+        EXPECT_EQ(seen.record, row.record);
         EXPECT_TRUE(row.log.empty() || log.has("D VornVsClientEvent: " + row.log))
             << testing::PrintToString(log.lines());
     }
@@ -222,7 +164,7 @@ TEST(VsConverters, SurviveWhatTheModemSends)
         EXPECT_EQ(log.count(std::string("E VornVsClientEvent: ") + row.name + " invalid parameters"),
                   row.event == 409 ? 0 : 2);
         row.converter(empty.get(), 0, &seen, Event::onEvent);
-        EXPECT_EQ(seen.record, Bytes(row.size));
+        EXPECT_EQ(seen.record, Bytes(row.record.size()));
         const Fields hostile[] = {{raw(256, {}), raw(257, {}), raw(258, {})},
                                   {raw(256, {1}), raw(257, {1}), raw(258, {1})},
                                   {raw(256, Bytes(60000, 0xFF)), raw(257, Bytes(60000, 0xFF))},
@@ -230,7 +172,7 @@ TEST(VsConverters, SurviveWhatTheModemSends)
                                   {numbers<int32_t>(256, {-1, -1}), numbers<int32_t>(258, {-1, -1})}};
         for (const Fields& fields : hostile) {
             row.converter(message(row.indication, 1, 0, fields).get(), 0, &seen, Event::onEvent);
-            EXPECT_EQ(seen.record.size(), row.size);
+            EXPECT_EQ(seen.record.size(), row.record.size());
         }
         EXPECT_EQ(seen.calls, 6);
     }
