@@ -23,6 +23,7 @@ if(RADIO_PLATFORM STREQUAL host)
     install(TARGETS vorn radio_base radio_platform EXPORT radio_apisTargets)
     install(TARGETS kst radioctl modem-sim)
     install(DIRECTORY examples/device examples/scenarios DESTINATION ${data_dir})
+    install(FILES examples/every-request.txt DESTINATION ${data_dir})
     install(FILES protocol/messages.json sim/default_scenario.json sim/scenario.schema.json DESTINATION ${data_dir})
 
     # What radioctl tells of itself.
