@@ -143,7 +143,7 @@ TEST_F(ModemSim, IsRefusedToAForkedChild)
     std::atexit([] { exitStatus < 0 ? void() : _exit(exitStatus); });
     modem.start();
     use(modem.device());
-    states.await(1);
+    states.waitFor(1);
     std::promise<void> timerRuns;
     mindroid::runAfter(0ms, [&] { timerRuns.set_value(); });
     timerRuns.get_future().wait();
@@ -167,7 +167,7 @@ TEST_F(ModemSim, IsRefusedToAForkedChild)
     waitpid(child, &status, 0);
     EXPECT_EQ(status, 0);
     expectAnswer();
-    EXPECT_EQ(states.await(1).size(), 1U) << "the link was not lost";
+    EXPECT_EQ(states.waitFor(1).size(), 1U) << "the link was not lost";
 }
 
 TEST_F(ModemSim, WaitsForItsPlaceWhenAnotherTookIt)
@@ -345,11 +345,11 @@ protected:
         retries.clear();
         host::setLogSink([reason](const host::LogLine& line) {
             if (line.text.find(reason) != std::string::npos) {
-                retries.note(1);
+                retries.add(1);
             }
         });
         lose();
-        retries.await(2);
+        retries.waitFor(2);
     }
 
     asio::io_context context;
@@ -365,20 +365,20 @@ TEST_F(PlayedModem, MayHaveNoRoomForAConnection)
     emptyQueue();
     use(modem.device());
     Local::socket client = acceptor.accept();
-    states.await(1);
+    states.waitFor(1);
     expectRetries("takes no connection", [&] {
         fillQueue();
         client.close();
     });
     emptyQueue();
-    states.await(3);
+    states.waitFor(3);
 }
 
 TEST_F(PlayedModem, IsFoundAgainWhenThereAreDescriptorsAgain)
 {
     use(modem.device());
     Local::socket client = acceptor.accept();
-    states.await(1);
+    states.waitFor(1);
     rlimit most{};
     getrlimit(RLIMIT_NOFILE, &most);
     expectRetries("can't reopen the link", [&] {
@@ -387,14 +387,14 @@ TEST_F(PlayedModem, IsFoundAgainWhenThereAreDescriptorsAgain)
         client.shutdown(Local::socket::shutdown_both);
     });
     setrlimit(RLIMIT_NOFILE, &most);
-    states.await(3);
+    states.waitFor(3);
 }
 
 TEST_F(PlayedModem, HoldsUpOnlyThoseWhoCommandIt)
 {
     use(modem.device());
     Local::socket client = acceptor.accept();
-    states.await(1);
+    states.waitFor(1);
     host::Clock::freeze();
     auto command = std::async(std::launch::async, [] {
         return vorn_host_control(
@@ -423,7 +423,7 @@ TEST_F(PlayedModem, IsNotReadWhileTooMuchWaits)
     received = &ofThisRun;
     const auto count = [](vorn_msg_t*, void*) {
         released.wait();
-        received->note(true);
+        received->add(1);
     };
     ASSERT_EQ(vorn_msg_register_ind_api(1, 7, count, 0, nullptr), 0);
     constexpr size_t kMost = 200'000;
@@ -443,7 +443,7 @@ TEST_F(PlayedModem, IsNotReadWhileTooMuchWaits)
     }
     EXPECT_LT(sent, kMost);
     release.set_value();
-    received->await(sent);
+    received->waitFor(sent);
     EXPECT_EQ(vorn_msg_unregister_ind_api(1, 7), 0);
 }
 
