@@ -2,53 +2,26 @@
 /// whether a good result goes first, the others make the answer's fields.
 #include "input.h"
 #include "radio/vorn_radio_client.h"
-#include "radio_apis/results.h"
+#include "requests.h"
 #include "support/fake_modem.h"
 #include "vs/vorn_vs_client.h"
 
 #include <cstdlib>
-#include <functional>
-#include <vector>
 
 namespace {
 
+using fuzz::asked;
 using test::FakeModem;
-
-/// Reads the whole record, as a caller would.
-void onResult(void* calls, RADIO_APIS_RESULT, RadioApisResultType* record)
-{
-    ++*static_cast<int*>(calls);
-    if (record == nullptr) {
-        return;
-    }
-    volatile uint8_t last = 0;
-    for (size_t i = 0; i < sizeof *record; ++i) {
-        last = reinterpret_cast<const uint8_t*>(record)[i];
-    }
-    static_cast<void>(last);
-}
-
-/// Sends a request with fixed arguments.
-using Request = std::function<int(int* calls)>;
-
-template <typename Client, typename... Parameters, typename... Arguments>
-Request asked(int (Client::*method)(Parameters...), Arguments... arguments)
-{
-    return [=](int* calls) {
-        static Client client(false, 0);
-        return (client.*method)(arguments..., calls, onResult);
-    };
-}
 
 int gNumbers[] = {1, 2};
 const unsigned char kBytes[] = {1, 2};
 
 /// Every request whose answer is read, and one of each client for which the result is all.
-const std::vector<Request>& requests()
+const std::vector<fuzz::Request>& requests()
 {
     using Vs = VornVsClient;
     using Radio = VornRadioClient;
-    static const std::vector<Request> all = {
+    static const std::vector<fuzz::Request> all = {
         asked(&Vs::getFeatureState, 1),
         asked(&Vs::getSarDsiState),
         asked(&Vs::getPowerStatistics),

@@ -42,11 +42,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const RpcEventHandler converter = all[fuzz::take(input, 1)[0] % all.size()];
     vorn_msg_t* message = vorn_msg_init(0x7E01, 1);
     fuzz::addFields(message, input);
-    volatile unsigned int result = 0;
     unsigned int sum = 0;
     converter(message, 0, &sum, onEvent);
-    result = sum;
-    static_cast<void>(result);
+    [[maybe_unused]] const volatile unsigned int result = sum;
     vorn_msg_deinit(message);
     return 0;
 }

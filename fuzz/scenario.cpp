@@ -1,17 +1,5 @@
 /// Scenario files: refused with a reason, or good for a modem.
-#include "sim/modem.h"
-
-#include <string_view>
-
-namespace {
-
-struct Nobody : sim::Output {
-    void answer(sim::ClientId, sim::Message) override {}
-    void indicate(sim::Message) override {}
-    void disconnect(std::chrono::milliseconds) override {}
-};
-
-} // namespace
+#include "nobody.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
@@ -24,7 +12,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
         json.erase("nvFile"); // the fuzzer's choice of a file to write
     }
     try {
-        Nobody nobody;
+        fuzz::Nobody nobody;
         sim::Modem modem(sim::Scenario::fromJson(json), nobody);
         modem.advance({});
         if (const auto due = modem.nextDeadline()) {

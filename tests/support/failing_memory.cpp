@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdint>
 #include <cstdlib>
 #include <new>
 #include <utility>
@@ -13,65 +12,57 @@ void (*onFailure)() = nullptr;
 
 namespace {
 
-/// In front of every block.
-struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Header {
-    void* start;
-    bool counts;
-};
+constinit thread_local Role thisRole = Other;
+constinit thread_local bool inTestCode = false;
 
-constinit thread_local Role gRole = Other;
-constinit thread_local bool gInTestCode = false;
-
-constinit Aim gAim{};
-constinit std::atomic<bool> gArmed = false;
-constinit std::atomic<int> gAllocations[kRoles];
-constinit std::atomic<long> gLive = 0;
+constinit std::atomic<Role> aimedRole = Other;
+constinit std::atomic<int> first = 0;
+constinit std::atomic<int> last = 0;
+constinit std::atomic<int> counts[kRoles];
+constinit std::atomic<long> living = 0;
 
 bool fails()
 {
-    if (gInTestCode || !gArmed) {
+    if (inTestCode) {
         return false;
     }
-    const int number = ++gAllocations[gRole];
-    if (gRole != gAim.role || gAim.number == 0 || number < gAim.number) {
+    const int number = ++counts[thisRole];
+    if (thisRole != aimedRole || number < first || number > last) {
         return false;
     }
-    if (number == gAim.number && onFailure != nullptr) {
-        const Scope testCode(true);
+    if (number == first) {
         onFailure();
     }
-    return number == gAim.number || gAim.andAllLater;
+    return true;
 }
 
-void* allocate(size_t size, size_t alignment = sizeof(Header)) noexcept
+/// In front of every block.
+struct alignas(__STDCPP_DEFAULT_NEW_ALIGNMENT__) Header {
+    bool counts;
+};
+
+void* allocate(size_t size) noexcept
 {
-    if (fails()) {
+    void* memory = fails() ? nullptr : std::malloc(sizeof(Header) + size);
+    if (memory == nullptr) {
         return nullptr;
     }
-    alignment = std::max(alignment, alignof(Header));
-    void* start = std::malloc(size + sizeof(Header) + alignment);
-    if (start == nullptr) {
-        return nullptr;
-    }
-    const uintptr_t end = reinterpret_cast<uintptr_t>(start) + sizeof(Header) + alignment - 1;
-    auto* block = reinterpret_cast<void*>(end / alignment * alignment);
-    new (static_cast<Header*>(block) - 1) Header{start, !gInTestCode};
-    gLive += gInTestCode ? 0 : 1;
-    return block;
+    living += inTestCode ? 0 : 1;
+    return new (memory) Header{!inTestCode} + 1;
 }
 
-void* allocateOrThrow(size_t size, size_t alignment = sizeof(Header))
+void* allocateOrThrow(size_t size)
 {
-    void* block = allocate(size, alignment);
+    void* block = allocate(size);
     return block != nullptr ? block : throw std::bad_alloc();
 }
 
 void release(void* block) noexcept
 {
     if (block != nullptr) {
-        const Header header = static_cast<Header*>(block)[-1];
-        gLive -= header.counts ? 1 : 0;
-        std::free(header.start);
+        Header* header = static_cast<Header*>(block) - 1;
+        living -= header->counts ? 1 : 0;
+        std::free(header);
     }
 }
 
@@ -79,36 +70,37 @@ void release(void* block) noexcept
 
 void setRole(Role role)
 {
-    gRole = role;
+    thisRole = role;
 }
 
 void arm(const Aim& aim)
 {
-    gAim = aim;
-    std::ranges::fill(gAllocations, 0);
-    gArmed = true;
+    std::ranges::fill(counts, 0);
+    aimedRole = aim.role;
+    first = aim.first;
+    last = aim.last;
 }
 
 void disarm()
 {
-    gArmed = false;
+    last = 0;
 }
 
 int allocations(Role role)
 {
-    return gAllocations[role];
+    return counts[role];
 }
 
 long live()
 {
-    return gLive;
+    return living;
 }
 
-Scope::Scope(bool isTestCode) : mBefore(std::exchange(gInTestCode, isTestCode)) {}
+TestCode::TestCode(bool isTestCode) : mBefore(std::exchange(inTestCode, isTestCode)) {}
 
-Scope::~Scope()
+TestCode::~TestCode()
 {
-    gInTestCode = mBefore;
+    inTestCode = mBefore;
 }
 
 } // namespace test::memory
@@ -120,20 +112,10 @@ void* operator new(size_t size) { return allocateOrThrow(size); }
 void* operator new[](size_t size) { return allocateOrThrow(size); }
 void* operator new(size_t size, const std::nothrow_t&) noexcept { return allocate(size); }
 void* operator new[](size_t size, const std::nothrow_t&) noexcept { return allocate(size); }
-void* operator new(size_t size, std::align_val_t to) { return allocateOrThrow(size, static_cast<size_t>(to)); }
-void* operator new[](size_t size, std::align_val_t to) { return allocateOrThrow(size, static_cast<size_t>(to)); }
-void* operator new(size_t size, std::align_val_t to, const std::nothrow_t&) noexcept { return allocate(size, static_cast<size_t>(to)); }
-void* operator new[](size_t size, std::align_val_t to, const std::nothrow_t&) noexcept { return allocate(size, static_cast<size_t>(to)); }
 void operator delete(void* block) noexcept { release(block); }
 void operator delete[](void* block) noexcept { release(block); }
 void operator delete(void* block, size_t) noexcept { release(block); }
 void operator delete[](void* block, size_t) noexcept { release(block); }
 void operator delete(void* block, const std::nothrow_t&) noexcept { release(block); }
 void operator delete[](void* block, const std::nothrow_t&) noexcept { release(block); }
-void operator delete(void* block, std::align_val_t) noexcept { release(block); }
-void operator delete[](void* block, std::align_val_t) noexcept { release(block); }
-void operator delete(void* block, size_t, std::align_val_t) noexcept { release(block); }
-void operator delete[](void* block, size_t, std::align_val_t) noexcept { release(block); }
-void operator delete(void* block, std::align_val_t, const std::nothrow_t&) noexcept { release(block); }
-void operator delete[](void* block, std::align_val_t, const std::nothrow_t&) noexcept { release(block); }
 // clang-format on

@@ -439,11 +439,15 @@ TEST_F(PlayedModem, IsNotReadWhileTooMuchWaits)
 {
     use(modem.device());
     Local::socket client = acceptor.accept();
-    static std::promise<void>& released = *new std::promise<void>;
-    static Happenings& received = *new Happenings;
+    std::promise<void> release;
+    static std::shared_future<void> released;
+    static Happenings* received;
+    released = release.get_future().share();
+    Happenings ofThisRun;
+    received = &ofThisRun;
     const auto count = [](vorn_msg_t*, void*) {
-        static const bool once = (released.get_future().wait(), true);
-        received.note(once);
+        released.wait();
+        received->note(true);
     };
     ASSERT_EQ(vorn_msg_register_ind_api(1, 7, count, 0, nullptr), 0);
     constexpr size_t kMost = 200'000;
@@ -462,8 +466,8 @@ TEST_F(PlayedModem, IsNotReadWhileTooMuchWaits)
         }
     }
     EXPECT_LT(sent, kMost);
-    released.set_value();
-    received.await(sent);
+    release.set_value();
+    received->await(sent);
     EXPECT_EQ(vorn_msg_unregister_ind_api(1, 7), 0);
 }
 

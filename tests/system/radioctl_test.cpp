@@ -151,8 +151,8 @@ TEST(Radioctl, ShowsNoMoreCellsThanTheEventHolds)
     const std::string block(2 * 4280, 'f');
     const Ran run = radioctl(
         "--json events all-cell-info --count 1 --do 'sim indicate all-cell-info cells=" + block + "'");
-    const json cells =
-        json::parse(run.output.substr(run.output.find("{\"time"))).at("record").at("subscriptions");
+    const std::string event = run.output.substr(run.output.find("{\"time"));
+    const json cells = json::parse(event.substr(0, event.find('\n'))).at("record").at("subscriptions");
     ASSERT_EQ(cells.size(), 2U);
     EXPECT_EQ(cells[1].at("neighbours").size(), 64U);
 }
