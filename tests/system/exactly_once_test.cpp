@@ -7,7 +7,11 @@
 #include "support/instance.h"
 #include "vs/vorn_vs_client.h"
 
+#include <gmock/gmock.h>
+
 #include <atomic>
+#include <random>
+#include <shared_mutex>
 #include <thread>
 
 using namespace std::chrono_literals;
@@ -110,27 +114,61 @@ TEST_F(ExactlyOnce, WhenTheInstanceIsReleasedFirst)
     EXPECT_EQ(answers.failures(), 0u);
 }
 
-TEST_F(ExactlyOnce, FromManyThreadsOnThreeInstances)
+/// On an instance that others use at the same time: initialises it again, switches indications, sends requests.
+size_t use(unsigned instance, Answers& answers, bool on)
 {
-    constexpr size_t kPerThread = 2000;
-    constexpr size_t kThreads = 6;
-    Answers answers(kThreads * kPerThread);
-    std::vector<std::thread> threads;
-    for (size_t t = 0; t < kThreads; ++t) {
-        threads.emplace_back([&, t] {
-            EXPECT_EQ(radioApisInit(kModem, static_cast<unsigned>(t % 3)), 0);
-            for (size_t i = t * kPerThread; i < (t + 1) * kPerThread; ++i) {
-                EXPECT_EQ(i % 2 == 0 ? radioSetSarState(1, 1, answers.userData(i), Answers::onResult)
-                                     : radioGetAllCellularCellInfo(answers.userData(i), Answers::onResult),
-                          0);
+    const uint8_t state = on ? 1 : 0;
+    EXPECT_EQ(radioApisInit(kModem, instance), 0);
+    EXPECT_EQ(radioRegisterVsEvent({.nec = {1, 1}, .test = {1, state}}, nullptr, nullptr), 0);
+    EXPECT_EQ(radioRegisterRadioEvent({{1, state}, {1, 1}}, nullptr, nullptr), 0);
+    registerRadioEvent(RADIO_EVENT_TEST_IND, nullptr, [](RADIO_EVENT_TYPE, void*, void*, int) {
+        radioRegisterVsEvent({.test = {1, 0}}, nullptr, nullptr); // of instance 0, as the thread's
+        radioRegisterVsEvent({.test = {1, 1}}, nullptr, nullptr);
+    });
+    const int results[] = {
+        radioSetSarState(1, 2, answers.userData(0), Answers::onResult),
+        radioGetAllCellularCellInfo(answers.userData(1), Answers::onResult),
+        radioGetServiceMode(answers.userData(2), Answers::onResult),
+        radioSetServiceMode(1, answers.userData(3), Answers::onResult),
+        radioGetMsimSubModeState(answers.userData(4), Answers::onResult),
+    };
+    EXPECT_THAT(results, testing::Each(0));
+    return std::size(results);
+}
+
+/// Goes on for STRESS_SECONDS of the environment.
+TEST_F(ExactlyOnce, WhateverManyThreadsDoWithinTheRules)
+{
+    const char* seconds = std::getenv("STRESS_SECONDS");
+    const auto end =
+        std::chrono::steady_clock::now() + std::chrono::seconds(seconds != nullptr ? std::stoi(seconds) : 1);
+    std::shared_mutex instances[3]; // owned by who releases one; callbacks need the first
+    const auto work = [&](unsigned seed) {
+        std::minstd_rand random(seed);
+        while (std::chrono::steady_clock::now() < end) {
+            const auto instance = static_cast<unsigned>(random() % 3);
+            if (instance != 0 && random() % 8 == 0) {
+                const std::unique_lock alone(instances[instance]);
+                radioApisInit(kModem, instance);
+                radioApisReleaseService(kModem);
+                radioApisDeinit();
+                continue;
             }
-        });
+            Answers answers(5);
+            std::shared_lock together(instances[instance]);
+            const size_t accepted = use(instance, answers, random() % 2 == 0);
+            together.unlock();
+            control({{"command", "indicate"}, {"message", "test"}, {"slot", instance}});
+            answers.expectOnceEach(accepted);
+        }
+    };
+    std::vector<std::thread> threads;
+    for (unsigned seed = 1; seed <= 8; ++seed) {
+        threads.emplace_back(work, seed);
     }
     for (std::thread& thread : threads) {
         thread.join();
     }
-    answers.expectOnceEach(kThreads * kPerThread);
-    EXPECT_EQ(answers.failures(), 0u);
 }
 
 TEST_F(ExactlyOnce, ChainsFromManyThreadsOnThreeInstances)
