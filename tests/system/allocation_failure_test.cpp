@@ -170,18 +170,20 @@ std::unique_ptr<host::Link> host::makeLink(const std::string&, LinkEvents& targe
 
 namespace {
 
-/// Returns when the delivery thread and the timer thread have done what they had to.
+/// Returns when the delivery thread and the timer thread have done what they had to. What they free after that is the
+/// test's.
 void settle()
 {
     constexpr uint16_t kBarrier = 0xFFFE;
     static int delivered;
     static int timed;
+    const memory::TestCode test;
     const auto onBarrier = [](vorn_msg_t*, void*) { count(delivered); };
     const int deliveredBefore = delivered;
     const bool isOpen = vorn_msg_register_ind_api(1, kBarrier, onBarrier, 0, nullptr) == 0;
     for (int tries = 0; isOpen && delivered == deliveredBefore; ++tries) {
         // What waits behind the message that can't be delivered is lost with it.
-        events.target->received(host::MessagePtr(vorn_msg_init(kBarrier, 1)));
+        events.received(host::MessagePtr(vorn_msg_init(kBarrier, 1)));
         waitFor(delivered, deliveredBefore + 1, 50) || tries < 8 ? void()
                                                                  : end("the delivery thread stopped");
     }
@@ -211,10 +213,12 @@ bool sentWhole(const Report& good)
 [[noreturn]] void perform(const Case& what, const memory::Aim& aim, const Report* good)
 {
     const auto& [results, calls] = std::tie(report->results, report->calls);
+    const memory::TestCode library(false);
     alarm(10);
     std::set_terminate([] { end("std::terminate"); });
     memory::onFailure = [] { report->failed = true; };
     what.prepare();
+    settle();
     const long before = memory::live();
     memory::arm(aim);
     try {
@@ -230,13 +234,17 @@ bool sentWhole(const Report& good)
     waitFor(calls[0], accepted) ? void() : end("never answered");
     settle();
     memory::disarm();
-    waitFor(linked, 1, events.target != nullptr ? 400 : 0);
-    settle();
     for (const auto role : {memory::Delivery, memory::Other}) {
         report->allocations[role] = memory::allocations(role);
     }
     run = 1;
-    results[1] = what.act(calls[1]);
+    results[1] = 1;
+    for (int tries = 0; results[1] != 0 && tries < 20; ++tries) {
+        // A link that was given up for want of memory comes back by itself.
+        settle();
+        waitFor(linked, tries == 0 ? 1 : 2, events.target == nullptr ? 0 : tries == 0 ? 400 : 1);
+        results[1] = what.act(calls[1]);
+    }
     const bool works = waitFor(calls[1], what.kind == Case::Request ? results[1] == 0 : what.calls);
     settle();
     radioApisReleaseService(kModem);
@@ -352,6 +360,7 @@ Case requestCase(const std::string& line)
     const auto call = radioctl::parseRequest(radioctl::splitWords(line));
     const auto act = [=](int& calls) { return call.request->send(call.arguments, {&calls, onAnswer}); };
     // Without an instance the library refuses before it allocates: what is allocated now is not its own.
+    const memory::TestCode library(false);
     int none = 0;
     act(none);
     memory::arm({});
@@ -410,6 +419,7 @@ int main(int argumentCount, char** words)
     const std::vector<std::string> arguments(words + 1, words + argumentCount);
     setenv("RADIO_LOG", "off", 1);
     setenv("RADIO_DEVICE_ROOT", DEVICE_ROOT, 1);
+    const memory::TestCode test;
     host::Clock::freeze();
     memory::setRole(memory::Caller);
     tally = sharedMemory<std::atomic<int>>(std::size(kGood) + 1);
