@@ -1,38 +1,30 @@
 #include "support/failing_memory.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cstdlib>
 #include <new>
-#include <utility>
 
 namespace test::memory {
 
-void (*onFailure)() = nullptr;
+constinit thread_local Role role = Other;
+constinit thread_local bool inTestCode = false;
+constinit std::atomic<int> allocations[kRoles];
+constinit std::atomic<long> live = 0;
+constinit std::atomic<bool>* failed = nullptr;
 
 namespace {
-
-constinit thread_local Role thisRole = Other;
-constinit thread_local bool inTestCode = false;
 
 constinit std::atomic<Role> aimedRole = Other;
 constinit std::atomic<int> first = 0;
 constinit std::atomic<int> last = 0;
-constinit std::atomic<int> counts[kRoles];
-constinit std::atomic<long> living = 0;
 
 bool fails()
 {
-    if (inTestCode) {
+    const int number = inTestCode ? 0 : ++allocations[role];
+    if (number == 0 || role != aimedRole || number < first || number > last) {
         return false;
     }
-    const int number = ++counts[thisRole];
-    if (thisRole != aimedRole || number < first || number > last) {
-        return false;
-    }
-    if (number == first) {
-        onFailure();
-    }
+    *failed = true;
     return true;
 }
 
@@ -47,7 +39,7 @@ void* allocate(size_t size) noexcept
     if (memory == nullptr) {
         return nullptr;
     }
-    living += inTestCode ? 0 : 1;
+    live += inTestCode ? 0 : 1;
     return new (memory) Header{!inTestCode} + 1;
 }
 
@@ -61,21 +53,16 @@ void release(void* block) noexcept
 {
     if (block != nullptr) {
         Header* header = static_cast<Header*>(block) - 1;
-        living -= header->counts ? 1 : 0;
+        live -= header->counts ? 1 : 0;
         std::free(header);
     }
 }
 
 } // namespace
 
-void setRole(Role role)
-{
-    thisRole = role;
-}
-
 void arm(const Aim& aim)
 {
-    std::ranges::fill(counts, 0);
+    std::ranges::fill(allocations, 0);
     aimedRole = aim.role;
     first = aim.first;
     last = aim.last;
@@ -84,23 +71,6 @@ void arm(const Aim& aim)
 void disarm()
 {
     last = 0;
-}
-
-int allocations(Role role)
-{
-    return counts[role];
-}
-
-long live()
-{
-    return living;
-}
-
-TestCode::TestCode(bool isTestCode) : mBefore(std::exchange(inTestCode, isTestCode)) {}
-
-TestCode::~TestCode()
-{
-    inTestCode = mBefore;
 }
 
 } // namespace test::memory

@@ -2,10 +2,14 @@
 /// with an alignment of his own.
 #pragma once
 
+#include <atomic>
+#include <utility>
+
 namespace test::memory {
 
-/// Which threads there are. One that has not said what it is is of the last kind.
+/// What the calling thread is; one that has not said so is of the last kind.
 enum Role { Caller, Delivery, Other, kRoles };
+extern constinit thread_local Role role;
 
 /// Of the allocations that threads of this role make, the first to the last of these fail, counted from 1.
 struct Aim {
@@ -14,29 +18,23 @@ struct Aim {
     int last;
 };
 
-void setRole(Role role);
-
-/// Counts the allocations of each role from 0 on, and lets fail what is aimed at, until disarm().
+/// Counts allocations from 0 on, and lets fail what is aimed at, until disarm().
 void arm(const Aim& aim);
 void disarm();
-int allocations(Role role);
 
-/// How many blocks live that were allocated outside of test code.
-long live();
+extern constinit std::atomic<int> allocations[kRoles]; ///< since arm()
+extern constinit std::atomic<long> live;               ///< blocks, but for those of the test's own code
+extern constinit std::atomic<bool>* failed;            ///< set by the first that fails
 
-/// Called where the first allocation fails.
-extern void (*onFailure)();
+/// Whether the thread runs code that stands for what has memory of its own: its allocations neither fail nor count.
+extern constinit thread_local bool inTestCode;
 
-/// Runs what stands for something that has memory of its own: its allocations neither fail nor count.
-class TestCode {
-public:
-    explicit TestCode(bool isTestCode = true);
-    ~TestCode();
+struct TestCode {
+    explicit TestCode(bool isTestCode = true) : before(std::exchange(inTestCode, isTestCode)) {}
+    ~TestCode() { inTestCode = before; }
     TestCode(const TestCode&) = delete;
     TestCode& operator=(const TestCode&) = delete;
-
-private:
-    bool mBefore;
+    const bool before;
 };
 
 } // namespace test::memory

@@ -35,10 +35,12 @@ constexpr const char* kGood[] = {"refused", "accepted and answered once", "done"
 /// What a case tells the process that waits for it. Two runs: the second one, in the same process, has memory.
 struct Report {
     const char* outcome;
-    bool failed; ///< an allocation
-    int results[2];
-    int calls[2];
-    int allocations[memory::kRoles];
+    std::atomic<bool> failed; ///< an allocation
+    struct {
+        int results[2];
+        std::atomic<int> calls[2];
+        int allocations[memory::kRoles]; ///< in the first run
+    } seen;
     long leftOver;           ///< blocks
     size_t sent;             ///< bytes of
     uint8_t frames[1 << 20]; ///< what reached the modem in the first run
@@ -48,7 +50,7 @@ struct Case {
     enum Kind { Request, Event, Other } kind;
     std::string name;
     std::function<void()> prepare;
-    std::function<int(int& calls)> act;
+    std::function<int(std::atomic<int>& calls)> act;
     int ownAllocations = 0; ///< of `act`, before the library's first
     int calls = 0;          ///< how often the library calls back in the end when this is no request
 };
@@ -63,7 +65,6 @@ T* sharedMemory(size_t count)
 std::atomic<int>* tally = nullptr; ///< of the good outcomes, and of all faults; all processes'
 Report* report = nullptr;          ///< of this process's case
 int run = 0;
-int linked = 0; ///< whether the message library has a link
 std::mutex mutex;
 std::condition_variable changed;
 
@@ -73,7 +74,7 @@ std::condition_variable changed;
     _exit(0);
 }
 
-void count(int& counter)
+void count(std::atomic<int>& counter)
 {
     const std::lock_guard lock(mutex);
     ++counter;
@@ -81,7 +82,7 @@ void count(int& counter)
 }
 
 /// Waits, while time passes quickly.
-bool waitFor(const int& counter, int wanted, int steps = 400)
+bool waitFor(const std::atomic<int>& counter, int wanted, int steps = 400)
 {
     std::unique_lock lock(mutex);
     for (int step = 0; step < steps; ++step) {
@@ -100,15 +101,11 @@ struct Events : host::LinkEvents {
     bool received(host::MessagePtr message) override
     {
         const memory::TestCode library(false);
-        if (target != nullptr) {
-            return target->received(std::move(message));
-        }
         kept = std::move(message);
-        return true;
+        return target == nullptr || target->received(std::move(kept));
     }
     void lost(std::chrono::milliseconds retryAfter) override
     {
-        const memory::TestCode library(false);
         target != nullptr ? target->lost(retryAfter) : void();
     }
     host::LinkEvents* target = nullptr;
@@ -123,18 +120,8 @@ host::EmbeddedLink& modem()
 }
 
 struct ModemLink : host::Link {
-    void open(std::chrono::milliseconds patience) override
-    {
-        modem().open(patience);
-        const std::lock_guard lock(mutex);
-        linked = 1;
-    }
-    void close() override
-    {
-        modem().close();
-        const std::lock_guard lock(mutex);
-        linked = 0;
-    }
+    void open(std::chrono::milliseconds patience) override { modem().open(patience); }
+    void close() override { modem().close(); }
     void send(const vorn_msg_t& request) override
     {
         const memory::TestCode test;
@@ -150,7 +137,7 @@ struct ModemLink : host::Link {
     }
     host::Clock::TimePoint nextDeadline() const override
     {
-        memory::setRole(memory::Delivery);
+        memory::role = memory::Delivery;
         return modem().nextDeadline();
     }
     void advance(host::Clock::TimePoint now) override
@@ -170,24 +157,25 @@ std::unique_ptr<host::Link> host::makeLink(const std::string&, LinkEvents& targe
 
 namespace {
 
-/// Returns when the delivery thread and the timer thread have done what they had to.
+/// Returns when the delivery thread and the timer thread have done what they had to. What they free after that is the
+/// test's.
 void settle()
 {
     constexpr uint16_t kBarrier = 0xFFFE;
-    static int delivered;
-    static int timed;
+    static std::atomic<int> delivered;
+    static std::atomic<int> timed;
+    const memory::TestCode test;
     const auto onBarrier = [](vorn_msg_t*, void*) { count(delivered); };
-    const int deliveredBefore = delivered;
+    const int before = delivered;
     const bool isOpen = vorn_msg_register_ind_api(1, kBarrier, onBarrier, 0, nullptr) == 0;
-    for (int tries = 0; isOpen && delivered == deliveredBefore; ++tries) {
+    for (int tries = 0; isOpen && delivered == before; ++tries) {
         // What waits behind the message that can't be delivered is lost with it.
-        events.target->received(host::MessagePtr(vorn_msg_init(kBarrier, 1)));
-        waitFor(delivered, deliveredBefore + 1, 50) || tries < 8 ? void()
-                                                                 : end("the delivery thread stopped");
+        events.received(host::MessagePtr(vorn_msg_init(kBarrier, 1)));
+        waitFor(delivered, before + 1, 50) || tries < 8 ? void() : end("the delivery thread stopped");
     }
-    const int before = timed;
+    timed = 0;
     mindroid::runAfter(0ms, [] { count(timed); });
-    waitFor(timed, before + 1) ? void() : end("the timer thread stopped");
+    waitFor(timed, 1) ? void() : end("the timer thread stopped");
 }
 
 std::vector<std::vector<uint8_t>> framesOf(const Report& sent)
@@ -207,60 +195,60 @@ bool sentWhole(const Report& good)
                                [&](const auto& frame) { return std::ranges::count(all, frame) != 0; });
 }
 
-/// Runs a case in this process. `good` is what it does when nothing fails; null: this is how to find out.
-[[noreturn]] void perform(const Case& what, const memory::Aim& aim, const Report* good)
+/// Runs a case in this process. `good` is what it does when nothing fails.
+[[noreturn]] void perform(const Case& what, const memory::Aim& aim, const Report& good)
 {
-    const auto& [results, calls] = std::tie(report->results, report->calls);
+    auto& [results, calls, allocations] = report->seen;
+    const memory::TestCode library(false);
     alarm(10);
     std::set_terminate([] { end("std::terminate"); });
-    memory::onFailure = [] { report->failed = true; };
+    memory::failed = &report->failed;
     what.prepare();
-    const long before = memory::live();
+    settle();
+    const long before = memory::live;
     memory::arm(aim);
     try {
         results[0] = what.act(calls[0]);
     } catch (...) {
         end("an exception left the function");
     }
-    report->allocations[memory::Caller] = memory::allocations(memory::Caller);
+    allocations[memory::Caller] = memory::allocations[memory::Caller].load();
     if (aim.role == memory::Caller) {
         memory::disarm();
     }
-    const int accepted = what.kind == Case::Request && results[0] == 0 ? 1 : 0;
+    const bool isRequest = what.kind == Case::Request;
+    const int accepted = isRequest && results[0] == 0 ? 1 : 0;
     waitFor(calls[0], accepted) ? void() : end("never answered");
     settle();
     memory::disarm();
-    waitFor(linked, 1, events.target != nullptr ? 400 : 0);
-    settle();
     for (const auto role : {memory::Delivery, memory::Other}) {
-        report->allocations[role] = memory::allocations(role);
+        allocations[role] = memory::allocations[role].load();
     }
     run = 1;
-    results[1] = what.act(calls[1]);
-    const bool works = waitFor(calls[1], what.kind == Case::Request ? results[1] == 0 : what.calls);
+    results[1] = 1;
+    for (int tries = 0; results[1] != 0 && tries < 20; ++tries) {
+        settle();
+        results[1] = what.act(calls[1]);
+        waitFor(calls[1], 1, 1); // a link that was given up for want of memory comes back by itself
+    }
+    const bool works = waitFor(calls[1], isRequest ? results[1] == 0 : what.calls);
     settle();
     radioApisReleaseService(kModem);
     vorn_deinit();
-    report->leftOver = memory::live() - before;
-    if (calls[0] > (what.kind == Case::Request ? accepted : calls[1])) {
-        end("called back again");
-    }
-    if (!works || (good != nullptr && (results[1] != good->results[1] || calls[1] != good->calls[1]))) {
-        end("did not work afterwards");
-    }
-    if (good != nullptr && !sentWhole(*good)) {
-        end("a message that is not sent otherwise");
-    }
-    if (good != nullptr && report->leftOver > good->leftOver) {
-        end("memory left behind");
-    }
-    end(kGood[what.kind == Case::Request ? accepted : 2]);
+    report->leftOver = memory::live - before;
+    calls[0] <= (isRequest ? accepted : calls[1].load()) ? void() : end("called back again");
+    works&& results[1] == good.seen.results[1] && calls[1] == good.seen.calls[1]
+        ? void()
+        : end("did not work afterwards");
+    sentWhole(good) ? void() : end("a message that is not sent otherwise");
+    report->leftOver <= good.leftOver ? void() : end("memory left behind");
+    end(kGood[isRequest ? accepted : 2]);
 }
 
 /// The same in a process of its own.
-void performApart(const Case& what, const memory::Aim& aim, const Report* good)
+void performApart(const Case& what, const memory::Aim& aim, const Report& good)
 {
-    std::memset(report, 0, offsetof(Report, frames));
+    std::memset(static_cast<void*>(report), 0, offsetof(Report, frames));
     const pid_t process = fork();
     if (process == 0) {
         perform(what, aim, good);
@@ -269,9 +257,7 @@ void performApart(const Case& what, const memory::Aim& aim, const Report* good)
     waitpid(process, &status, 0);
     const char* outcome = status == 0 ? report->outcome : "the process died";
     const auto* known = std::ranges::find(kGood, outcome);
-    if (good != nullptr || known == std::end(kGood)) {
-        ++tally[known - kGood];
-    }
+    tally[known - kGood] += aim.first != 0 || known == std::end(kGood) ? 1 : 0;
     if (known == std::end(kGood)) {
         fmt::print("{} {} {}{}: {}\n", what.name, kRoles[aim.role], aim.first,
                    aim.last > aim.first ? " later" : "", outcome);
@@ -283,18 +269,16 @@ void failEverywhere(const Case& what, const Report& good, std::optional<int> sam
 {
     for (const auto role : {memory::Caller, memory::Delivery, memory::Other}) {
         const int own = role == memory::Caller ? what.ownAllocations : 0;
-        const int allocations = good.allocations[role] - own;
+        const int allocations = good.seen.allocations[role] - own;
         if (allocations <= 0 || (what.kind == Case::Event && role == memory::Caller)) {
             continue;
         }
         for (const bool later : {false, true}) {
-            for (int n = own + 1 + (sample ? *sample % allocations : 0); n == own + 1 || report->failed;
-                 ++n) {
-                performApart(what, {role, n, later ? INT_MAX : n}, &good);
-                if (sample) {
-                    break;
-                }
-            }
+            int n = own + (sample ? *sample % allocations : 0);
+            do {
+                ++n;
+                performApart(what, {role, n, later ? INT_MAX : n}, good);
+            } while (report->failed && !sample);
         }
     }
 }
@@ -303,8 +287,8 @@ void failEverywhere(const Case& what, const Report& good, std::optional<int> sam
 const Report& goodRun(const Case& what)
 {
     static Report good;
-    performApart(what, {}, nullptr);
-    std::memcpy(&good, report, offsetof(Report, frames) + report->sent);
+    performApart(what, {}, *report);
+    std::memcpy(static_cast<void*>(&good), report, offsetof(Report, frames) + report->sent);
     modem().open(0ms);
     for (const auto& frame : framesOf(good)) {
         modem().send(*host::decodeFrame(frame));
@@ -334,29 +318,32 @@ int switchRadioEvents()
 int listen(RADIO_EVENT_TYPE event)
 {
     return registerRadioEvent(event, nullptr,
-                              [](RADIO_EVENT_TYPE, void*, void*, int) { count(report->calls[run]); });
+                              [](RADIO_EVENT_TYPE, void*, void*, int) { count(report->seen.calls[run]); });
 }
 
 int listenToService()
 {
     return registerRadioApisEvent(kModem, nullptr, [](RADIO_APIS_SERVICE_TYPE, RAPIS_CONNECT_STATE, void*) {
-        count(report->calls[1]);
+        count(report->seen.calls[1]);
     });
 }
 
 Case requestCase(const std::string& line)
 {
     const auto onAnswer = [](void* user, RADIO_APIS_RESULT, RadioApisResultType*) {
-        count(*static_cast<int*>(user));
+        count(*static_cast<std::atomic<int>*>(user));
     };
     const auto call = radioctl::parseRequest(radioctl::splitWords(line));
-    const auto act = [=](int& calls) { return call.request->send(call.arguments, {&calls, onAnswer}); };
+    const auto act = [=](std::atomic<int>& calls) {
+        return call.request->send(call.arguments, {&calls, onAnswer});
+    };
     // Without an instance the library refuses before it allocates: what is allocated now is not its own.
-    int none = 0;
+    const memory::TestCode library(false);
+    std::atomic<int> none;
     act(none);
     memory::arm({});
     act(none);
-    return {Case::Request, call.request->name(), init, act, memory::allocations(memory::Caller)};
+    return {Case::Request, call.request->name(), init, act, memory::allocations[memory::Caller]};
 }
 
 Case eventCase(const rpcEventHandlerMap& row)
@@ -371,7 +358,7 @@ Case eventCase(const rpcEventHandlerMap& row)
         switchRadioEvents();
         listen(event);
     };
-    const auto act = [indication = std::shared_ptr<vorn_msg_t>(std::move(events.kept))](int&) {
+    const auto act = [indication = std::shared_ptr<vorn_msg_t>(std::move(events.kept))](const auto&) {
         events.target->received(host::copyOf(*indication));
         settle();
         return 0;
@@ -389,7 +376,7 @@ std::vector<Case> allCases()
     std::ranges::transform(kVendorIndications, std::back_inserter(cases), eventCase);
     std::ranges::transform(kRadioIndications, std::back_inserter(cases), eventCase);
     const auto add = [&](const char* name, auto prepare, auto act, int calls = 0) {
-        cases.push_back({Case::Other, name, prepare, [=](int&) { return act(); }, 0, calls});
+        cases.push_back({Case::Other, name, prepare, [=](const auto&) { return act(); }, 0, calls});
     };
     const auto nothing = [] {};
     add("init", nothing, [] { return radioApisInit(kModem, 0); });
@@ -410,8 +397,9 @@ int main(int argumentCount, char** words)
     const std::vector<std::string> arguments(words + 1, words + argumentCount);
     setenv("RADIO_LOG", "off", 1);
     setenv("RADIO_DEVICE_ROOT", DEVICE_ROOT, 1);
+    const memory::TestCode test;
     host::Clock::freeze();
-    memory::setRole(memory::Caller);
+    memory::role = memory::Caller;
     tally = sharedMemory<std::atomic<int>>(std::size(kGood) + 1);
     report = sharedMemory<Report>(1);
     const std::vector<Case> cases = allCases();
@@ -423,18 +411,17 @@ int main(int argumentCount, char** words)
         const auto role = static_cast<memory::Role>(std::ranges::find(kRoles, arguments[2]) - kRoles);
         const Report& good = goodRun(*what);
         const int n = std::stoi(arguments[3]);
-        perform(*what, {role, n, arguments.size() > 4 ? INT_MAX : n}, &good);
+        perform(*what, {role, n, arguments.size() > 4 ? INT_MAX : n}, good);
     }
     for (int process = 0; process < kProcesses; ++process) {
         if (fork() != 0) {
             continue;
         }
         report = sharedMemory<Report>(1);
-        for (int i = 0; i < static_cast<int>(cases.size()); ++i) {
-            const Report& good = goodRun(cases[static_cast<size_t>(i)]);
-            if (i % kProcesses == process && isWanted(cases[static_cast<size_t>(i)])) {
-                failEverywhere(cases[static_cast<size_t>(i)], good,
-                               arguments.empty() ? std::optional(i) : std::nullopt);
+        for (int i = 0; const Case& what : cases) {
+            const Report& good = goodRun(what);
+            if (i++ % kProcesses == process && isWanted(what)) {
+                failEverywhere(what, good, arguments.empty() ? std::optional(i) : std::nullopt);
                 std::fflush(stdout);
             }
         }

@@ -12,18 +12,14 @@ struct Status {
     LinkObserver observer;
 };
 
-/// Never destroyed: the delivery thread may report after main() has returned.
-Status& status()
-{
-    static Status& instance = *new Status;
-    return instance;
-}
+/// Made when the library is loaded, since who reports a loss may have no memory. Never destroyed: the delivery thread
+/// may report after main() has returned.
+Status& link = *new Status;
 
 } // namespace
 
 void publishLinkState(LinkState state)
 {
-    Status& link = status();
     const std::lock_guard lock(link.mutex);
     if (std::exchange(link.state, state) != state && link.observer) {
         link.observer(state);
@@ -32,7 +28,6 @@ void publishLinkState(LinkState state)
 
 void observeLinkState(LinkObserver observer)
 {
-    Status& link = status();
     const std::lock_guard lock(link.mutex);
     link.observer = std::move(observer);
     if (link.observer && link.state != LinkState::Unknown) {

@@ -1,5 +1,6 @@
 #include "kst/libkst.h"
 #include "host/link_status.h"
+#include "zor/log.h"
 
 #include <condition_variable>
 #include <deque>
@@ -52,11 +53,15 @@ public:
         tell(mState, mRegistrations.size() - 1);
     }
 
-    void changeState(LinkState state)
+    void changeState(LinkState state) noexcept
     {
         const std::lock_guard lock(mMutex);
         mState = state;
-        tell(state, 0);
+        try {
+            tell(state, 0);
+        } catch (const std::exception& error) {
+            zorLogW("kst", "nobody hears of the modem's state %d: %s", static_cast<int>(state), error.what());
+        }
     }
 
 private:

@@ -63,8 +63,8 @@ bool Transport::open(const LinkFactory& makeLink)
     if (mState != State::Closed && mState != State::Leaving) {
         return mState == State::Open;
     }
+    mTimeout = requestTimeout(); // throws without memory
     const State before = mState.exchange(State::Opening);
-    mTimeout = requestTimeout();
     mLinkPhase = LinkPhase::Opening;
     lock.unlock();
     try {
