@@ -154,7 +154,10 @@ int VornChannelClient::registerRadioApisEvent(void* userData, RadioServiceCallba
     if (statusLibrary.init != nullptr) {
         statusLibrary.init();
     }
-    statusLibrary.registerEvent(mdStatusEventCb, this);
+    if (statusLibrary.registerEvent(mdStatusEventCb, this) < 0) {
+        zorLogW(kChannelTag, "registerRadioApisEvent : %s refuses to tell of the modem", kStatusLibrary);
+        mStatusSubscribed = false;
+    }
     return 0;
 }
 

@@ -20,8 +20,8 @@ public:
     /// does not support the channel.
     int init() override;
 
-    /// Adds a service listener; the first one subscribes to the status library. When that is missing, the
-    /// listener stays and the next registration tries again. 0.
+    /// Adds a service listener; the first one subscribes to the status library. When that is missing, or
+    /// refuses, the listener stays and the next registration tries again. 0.
     int registerRadioApisEvent(void* userData, RadioServiceCallback callback) override;
 
     /// Ends all registrations of indications with the message library; 0.

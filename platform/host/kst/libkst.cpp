@@ -50,7 +50,12 @@ public:
     {
         const std::lock_guard lock(mMutex);
         mRegistrations.push_back(registration);
-        tell(mState, mRegistrations.size() - 1);
+        try {
+            tell(mState, mRegistrations.size() - 1);
+        } catch (const std::exception&) {
+            mRegistrations.pop_back(); // who is refused comes again, and would be told twice
+            throw;
+        }
     }
 
     void changeState(LinkState state) noexcept
@@ -109,29 +114,33 @@ private:
     std::thread mThread;
 };
 
-/// The prepared library. Never destroyed: its thread may run until the process ends.
+/// The prepared library.
 struct Library {
     std::mutex mutex;
     std::shared_ptr<StatusThread> status; ///< null when not prepared
 };
 
-Library& library()
-{
-    static Library& instance = *new Library;
-    return instance;
-}
+/// Needs no memory, which may be short when the library is opened; never destroyed, since the status thread may run
+/// until the process ends.
+union Kept {
+    constexpr Kept() : library() {}
+    ~Kept() {}
+    Library library;
+};
+constinit Kept kept;
+Library& kst = kept.library;
 
 } // namespace
 
 int libkst_init(void)
 {
     try {
-        Library& kst = library();
         const std::lock_guard lock(kst.mutex);
         if (!kst.status) {
             auto status = std::make_shared<StatusThread>();
+            host::LinkObserver observer = [status](LinkState state) { status->changeState(state); };
             status->start();
-            host::observeLinkState([status](LinkState state) { status->changeState(state); });
+            host::observeLinkState(std::move(observer));
             kst.status = std::move(status);
         }
         return 0;
@@ -144,7 +153,6 @@ void libkst_deinit(void)
 {
     std::shared_ptr<StatusThread> status;
     {
-        Library& kst = library();
         const std::lock_guard lock(kst.mutex);
         status.swap(kst.status);
         if (status) {
@@ -158,7 +166,6 @@ void libkst_deinit(void)
 
 int libkst_md_event_register(void (*cb)(void* client, md_status_event* event), void* client)
 {
-    Library& kst = library();
     const std::lock_guard lock(kst.mutex);
     if (!kst.status || cb == nullptr) {
         return -1;
