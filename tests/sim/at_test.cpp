@@ -7,16 +7,12 @@ namespace {
 
 constexpr std::string_view kOk = "\r\nOK\r\n";
 constexpr std::string_view kError = "\r\nERROR\r\n";
+constexpr std::string_view kWrongParameters = "\r\n+CME ERROR: 50\r\n";
 
-struct Row {
-    std::string_view command;
-    std::string_view answer;
-};
-
-void expectAnswers(Slot& slot, const std::vector<Row>& rows)
+void expectAnswers(Slot& slot, const std::vector<std::pair<std::string_view, std::string_view>>& rows)
 {
-    for (const auto& row : rows) {
-        EXPECT_EQ(executeAt(slot, row.command).text, row.answer) << row.command;
+    for (const auto& [command, answer] : rows) {
+        EXPECT_EQ(executeAt(slot, command).text, answer) << command;
     }
 }
 
@@ -29,7 +25,6 @@ TEST(AtCommands, Answers)
 {
     expectAnswers(builtInSlots()[0],
                   {
-                      {"AT", kOk},
                       {"AT\r\n", kOk},
                       {"at\r", kOk},
                       {"AT+CEMODE?", "\r\n+CEMODE: 2\r\n\r\nOK\r\n"},
@@ -37,36 +32,33 @@ TEST(AtCommands, Answers)
                       {"AT+CEMODE=1", kOk},
                       {"AT + CEMODE = 3\r", kOk},
                       {"at+cemode?\r\n", "\r\n+CEMODE: 3\r\n\r\nOK\r\n"},
-                      {"AT+CEMODE=4", "\r\n+CME ERROR: 50\r\n"},
-                      {"AT+CEMODE=", "\r\n+CME ERROR: 50\r\n"},
-                      {"AT+CEMODE=1,1", "\r\n+CME ERROR: 50\r\n"},
-                      {"AT+CEMODE=\"1\"", "\r\n+CME ERROR: 50\r\n"},
-                      {"AT+CEMODE=99999999999999999999", "\r\n+CME ERROR: 50\r\n"},
+                      {"AT+CEMODE=4", kWrongParameters},
+                      {"AT+CEMODE=", kWrongParameters},
+                      {"AT+CEMODE=1,1", kWrongParameters},
+                      {"AT+CEMODE=\"1\"", kWrongParameters},
+                      {"AT+CEMODE=99999999999999999999", kWrongParameters},
                       {"AT+CEMODE", kError},
                       {"AT+CEMODE?", "\r\n+CEMODE: 3\r\n\r\nOK\r\n"},
-                      {"AT+CFUN?", "\r\n+CFUN: 1\r\n\r\nOK\r\n"},
-                      {"AT+CFUN=?", "\r\n+CFUN: (0,1,4),(0-1)\r\n\r\nOK\r\n"},
                       {"AT+CFUN=4", kOk},
                       {"AT+CFUN?", "\r\n+CFUN: 4\r\n\r\nOK\r\n"},
                       {"AT+CFUN=5", "\r\n+CME ERROR: 4\r\n"},
-                      {"AT+CFUN=,1", "\r\n+CME ERROR: 50\r\n"},
+                      {"AT+CFUN=,1", kWrongParameters},
                       {"AT+CMEE=2", kOk},
                       {"AT+CEMODE=4", "\r\n+CME ERROR: Incorrect parameters\r\n"},
                       {"AT+CMEE=0", kOk},
                       {"AT+CEMODE=4", kError},
                       {"AT+CIMI", "\r\n001010123456789\r\n\r\nOK\r\n"},
-                      {"AT+CIMI=?", kOk},
                       {"AT+CIMI?", kError},
                       {"AT+EGMC = 1,\"NrTas_onoff\",1", kOk},
                       {"AT+EGMC=0,\"NrTas_onoff\"", "\r\n+EGMC: \"NrTas_onoff\",1\r\n\r\nOK\r\n"},
                       {"AT+EGMC=0,\"other\"", kError},
-                      {"AT+EGMC=1,\"x\"", kError},
                       {"ATE1", kOk},
                       {"AT+CFUN?\r\n", "AT+CFUN?\r\r\n+CFUN: 4\r\n\r\nOK\r\n"},
                       {"ATE2", "ATE2\r\r\nERROR\r\n"},
                       {"ATE", "ATE\r\r\nOK\r\n"},
                       {"AT", kOk},
                   });
+    expectAnswers(builtInSlots()[2], {{"AT+CIMI", "\r\n+CME ERROR: 10\r\n"}}); // no card
 }
 
 TEST(AtCommands, KeepTheConfiguration)
@@ -76,12 +68,12 @@ TEST(AtCommands, KeepTheConfiguration)
                             {R"(AT+ESBP=7,"SBP_NR_CA")", "\r\n+ESBP: 1\r\n\r\nOK\r\n"},
                             {R"(AT+ESBP=5,"SBP_NR_CA",0,1)", kOk},
                             {R"(AT+ESBP=7,"SBP_NR_CA")", "\r\n+ESBP: 0,1\r\n\r\nOK\r\n"},
-                            {R"(AT+ESBP=7,"SBP_Y")", "\r\n+CME ERROR: 50\r\n"},
+                            {R"(AT+ESBP=7,"SBP_Y")", kWrongParameters},
                             {"AT+ESRVREC=,,,4", kOk},
                             {"AT+ESRVREC?", "\r\n+ESRVREC: ,,,4\r\n\r\nOK\r\n"},
                             {"AT+EMMCHLCK=1,3,1,627264,101,3", kOk},
                             {"AT+EMMCHLCK?", "\r\n+EMMCHLCK: 1,3,1,627264,101,3\r\n\r\nOK\r\n"},
-                            {"AT+EMMCHLCK=1,3", "\r\n+CME ERROR: 50\r\n"},
+                            {"AT+EMMCHLCK=1,3", kWrongParameters},
                             {"AT+EMMCHLCK=0", kOk},
                             {"AT+EMMCHLCK?", "\r\n+EMMCHLCK: 0\r\n\r\nOK\r\n"},
                             {R"(AT+ECFGSET="ussd_support","0")", kOk},
@@ -101,8 +93,7 @@ TEST(AtCommands, TellTheModeOnceItIsReached)
     slot.modeChangeTime = std::chrono::milliseconds(700);
     expectAnswers(slot, {{"AT+EFUN=0", kOk}, {"AT+EFUN?", "\r\n+EFUN: 3\r\n\r\nOK\r\n"}});
     slot.now += std::chrono::milliseconds(699);
-    expectAnswers(slot,
-                  {{"AT+EFUN=4", "\r\n+CME ERROR: 50\r\n"}, {"AT+EFUN?", "\r\n+EFUN: 3\r\n\r\nOK\r\n"}});
+    expectAnswers(slot, {{"AT+EFUN=4", kWrongParameters}, {"AT+EFUN?", "\r\n+EFUN: 3\r\n\r\nOK\r\n"}});
     slot.now += std::chrono::milliseconds(1);
     expectAnswers(slot, {{"AT+EFUN?", "\r\n+EFUN: 0\r\n\r\nOK\r\n"}});
     EXPECT_FALSE(slot.radioOn());
@@ -118,11 +109,6 @@ TEST(AtCommands, KnowOneStateOfTheRadio)
         const std::string level = executeAt(slot, "AT+CFUN?").text.substr(9, 1);
         EXPECT_EQ(level + executeAt(slot, "AT+EFUN?").text.substr(9, 1), row.substr(10)) << row;
     }
-}
-
-TEST(AtCommands, WithoutSimCard)
-{
-    expectAnswers(builtInSlots()[2], {{"AT+CIMI", "\r\n+CME ERROR: 10\r\n"}});
 }
 
 TEST(AtCommands, WrongGrammarIsAnError)

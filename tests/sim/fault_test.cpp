@@ -16,7 +16,7 @@ protected:
     }
 
     const nlohmann::json ok = {{"ok", true}};
-    const FieldList sar{{256, i32(1)}, {257, i32(2)}};
+    const FieldMap sar{{256, i32(1)}, {257, i32(2)}};
 };
 
 TEST_F(Faults, StrikeWhatTheyMatch)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/log_sink.h"
+#include "message.h"
 #include "scenario_data.h"
 #include "sim/modem.h"
 #include "value.h"
@@ -30,34 +31,29 @@ inline Value text(std::string_view text)
     return bytes;
 }
 
-using FieldList = std::vector<std::pair<uint16_t, Value>>;
+using FieldMap = std::map<uint16_t, Value>;
 
-inline Fields fieldsOf(const FieldList& list)
+inline Fields fieldsOf(const FieldMap& map)
 {
     Fields fields;
-    for (const auto& [tag, value] : list) {
+    for (const auto& [tag, value] : map) {
         fields.set(tag, value);
     }
     return fields;
 }
 
 /// The fields of a message, of those the catalogue knows.
-inline std::map<uint16_t, Value> fieldsOf(const vorn_msg_t& message)
+inline FieldMap fieldsOf(const host::Message& message)
 {
-    std::map<uint16_t, Value> fields;
-    const auto bytes = [](const void* data, uint16_t length) {
-        const auto* begin = static_cast<const uint8_t*>(data);
-        return Bytes(begin, begin + length);
-    };
+    FieldMap fields;
+    const auto bytes = [](auto data) { return Bytes(data.begin(), data.end()); };
     for (const uint16_t tag : Protocol::instance().tags()) {
-        uint16_t length = 0;
-        if (const void* data = vorn_msg_get_val_ptr(&message, tag, &length)) {
-            fields[tag] = bytes(data, length);
+        if (const auto field = message.field(tag); field.data() != nullptr) {
+            fields[tag] = bytes(field);
         }
         std::vector<Bytes> elements;
-        for (uint16_t i = 0; i < vorn_msg_get_tlv_num(&message, tag); ++i) {
-            const void* data = vorn_msg_get_idx_ptr(&message, tag, i, &length);
-            elements.push_back(bytes(data, length));
+        for (uint16_t i = 0; i < message.elementCount(tag); ++i) {
+            elements.push_back(bytes(message.element(tag, i)));
         }
         if (!elements.empty()) {
             fields[tag] = elements;
@@ -77,7 +73,7 @@ protected:
     struct Received {
         ClientId client;
         vorn_msg_hdr_t header;
-        std::map<uint16_t, Value> fields;
+        FieldMap fields;
     };
 
     void start(const std::string& scenario) { mModem = std::make_unique<Modem>(fromText(scenario), *this); }
@@ -87,19 +83,19 @@ protected:
         return Scenario::fromJson(nlohmann::json::parse(scenario));
     }
 
-    void send(uint16_t id, const FieldList& fields = {}, uint8_t slotBit = 1, uint16_t transaction = 7)
+    void send(uint16_t id, const FieldMap& fields = {}, uint8_t slotBit = 1, uint16_t transaction = 7)
     {
         const auto request = makeMessage({id, transaction, slotBit}, fieldsOf(fields));
         mModem->receive(kClient, *request, mNow);
     }
 
     /// Sends a request and returns the fields of its only answer.
-    std::map<uint16_t, Value> ask(uint16_t id, const FieldList& fields = {}, uint8_t slotBit = 1)
+    FieldMap ask(uint16_t id, const FieldMap& fields = {}, uint8_t slotBit = 1)
     {
         mAnswers.clear();
         send(id, fields, slotBit);
         EXPECT_EQ(mAnswers.size(), 1U);
-        return mAnswers.empty() ? std::map<uint16_t, Value>() : mAnswers.front().fields;
+        return mAnswers.empty() ? FieldMap() : mAnswers.front().fields;
     }
 
     nlohmann::json control(const std::string& command)
@@ -107,11 +103,12 @@ protected:
         return mModem->control(nlohmann::json::parse(command), mNow);
     }
 
-    void answer(ClientId client, Message message) override
+    static Received received(ClientId client, const vorn_msg_t& message)
     {
-        mAnswers.push_back({client, message->hdr, fieldsOf(*message)});
+        return {client, message.hdr, fieldsOf(host::Message::of(message))};
     }
-    void indicate(Message message) override { mIndications.push_back({0, message->hdr, fieldsOf(*message)}); }
+    void answer(ClientId client, Message message) override { mAnswers.push_back(received(client, *message)); }
+    void indicate(Message message) override { mIndications.push_back(received(0, *message)); }
     void disconnect(std::chrono::milliseconds downFor) override { mDisconnects.push_back(downFor); }
 
     std::string mLog; ///< the last line

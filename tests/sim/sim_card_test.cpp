@@ -22,16 +22,12 @@ ByteArray<size> array(const std::string& digits)
     return bytes;
 }
 
-/// Test sets of 3GPP TS 35.208.
+/// Two of the test sets of 3GPP TS 35.208; the cards below have another one.
 TEST(Milenage, GivesThePublishedValues)
 {
     const struct {
         std::string k, rand, sqn, amf, op, opc, f1, f1Star, f2, f5, f3, f4, f5Star;
     } sets[] = {
-        {"465b5ce8b199b49faa5f0a2ee238a6bc", "23553cbe9637a89d218ae64dae47bf35", "ff9bb4d0b607", "b9b9",
-         "cdc202d5123e20f62b6d676ac72cb318", "cd63cb71954a9f4e48a5994e37a02baf", "4a9ffac354dfafb3",
-         "01cfaf9ec4e871e9", "a54211d5e3ba50bf", "aa689c648370", "b40ba9a3c58b2a05bbf0d987b21bf8cb",
-         "f769bcd751044604127672711c6d3441", "451e8beca43b"},
         {"0396eb317b6d1c36f19c1c84cd6ffd16", "c00d603103dcee52c4478119494202e8", "fd8eef40df7d", "af17",
          "ff53bade17df5d4e793073ce9d7579fa", "53c15671c60a4b731c55b4a441c0bde2", "5df5b31807e258b0",
          "a8c016e51ef4a343", "d3a628ed988620f0", "c47783995f72", "58c433ff7a7082acd424220f2b67c556",
