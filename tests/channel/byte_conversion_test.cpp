@@ -21,51 +21,36 @@ TEST(ByteConversion, WritesUpperCaseDigitsWithoutEnd)
 
 TEST(ByteConversion, ReadsPairsOfDigits)
 {
-    const struct {
-        const char* hex;
-        int returned;
-        int length;
-        Bytes bytes;
-    } cases[] = {
-        {"0af0", 0, 2, {0x0A, 0xF0, 0xEE}},   {"FFe9", 0, 2, {0xFF, 0xE9, 0xEE}},
-        {"", 0, 0, {0xEE, 0xEE, 0xEE}},       {"0AG0", -1, -9, {0x0A, 0xEE, 0xEE}},
-        {"0AF", -1, -9, {0x0A, 0xEE, 0xEE}},  {"0A F", -1, -9, {0x0A, 0xEE, 0xEE}},
-        {"0x12", -1, -9, {0xEE, 0xEE, 0xEE}}, {"1", -1, -9, {0xEE, 0xEE, 0xEE}},
-        {"@:/`", -1, -9, {0xEE, 0xEE, 0xEE}},
+    constexpr int kRefused = -9; // the length stays as it was
+    const std::tuple<const char*, int, Bytes> rows[] = {
+        {"0af0", 2, {0x0A, 0xF0}},        {"FFe9", 2, {0xFF, 0xE9}},       {"", 0, {0xEE, 0xEE}},
+        {"0AG0", kRefused, {0x0A, 0xEE}}, {"0AF", kRefused, {0x0A, 0xEE}}, {"0A F", kRefused, {0x0A, 0xEE}},
+        {"0x12", kRefused, {0xEE, 0xEE}}, {"1", kRefused, {0xEE, 0xEE}},   {"@:/`", kRefused, {0xEE, 0xEE}},
     };
-    for (const auto& row : cases) {
-        Bytes out(3, 0xEE);
-        int length = -9;
-        EXPECT_EQ(hexStringToByteArray(row.hex, out.data(), &length), row.returned) << row.hex;
-        EXPECT_EQ(length, row.length) << row.hex;
-        EXPECT_EQ(out, row.bytes) << row.hex;
+    for (const auto& [hex, expectedLength, bytes] : rows) {
+        Bytes out(2, 0xEE);
+        int length = kRefused;
+        EXPECT_EQ(hexStringToByteArray(hex, out.data(), &length), expectedLength < 0 ? -1 : 0) << hex;
+        EXPECT_EQ(length, expectedLength) << hex;
+        EXPECT_EQ(out, bytes) << hex;
     }
 }
 
 TEST(ByteConversion, PutsTheMostSignificantByteFirst)
 {
-    for (const int32_t value : {0, 1, -1, 0x01020304, static_cast<int32_t>(0x80000000)}) {
-        Bytes bytes(4);
-        intToByteArray(value, bytes.data());
-        EXPECT_EQ(bytes[0], static_cast<uint8_t>(static_cast<uint32_t>(value) >> 24));
-        EXPECT_EQ(byteArrayToInt(bytes.data()), value);
-    }
-    const Bytes seven = {0, 0, 0, 1, 9, 9, 9};
-    int32_t values[2] = {-1, -1};
+    const Bytes bytes = {0x80, 0, 0, 1, 0x0A, 0x0B, 0x0C, 0x0D, 9, 9, 9};
+    std::vector<int32_t> values(3, -9);
     int count = -1;
-    byteArrayToIntArray(seven.data(), 7, values, &count);
-    EXPECT_EQ(count, 1);
-    EXPECT_EQ(values[0], 1);
-    EXPECT_EQ(values[1], -1);
-    byteArrayToIntArray(seven.data(), -4, values, &count);
+    byteArrayToIntArray(bytes.data(), -4, values.data(), &count);
     EXPECT_EQ(count, 0);
-    Bytes out(9, 0xEE);
-    const int32_t two[] = {1, 0x0A0B0C0D};
-    intArrayToByteArray(two, 0, out.data());
-    intArrayToByteArray(two, -1, out.data());
-    EXPECT_EQ(out, Bytes(9, 0xEE));
-    intArrayToByteArray(two, 2, out.data());
-    EXPECT_EQ(out, (Bytes{0, 0, 0, 1, 0x0A, 0x0B, 0x0C, 0x0D, 0xEE}));
+    byteArrayToIntArray(bytes.data(), 11, values.data(), &count);
+    EXPECT_EQ(count, 2);
+    EXPECT_EQ(values, (std::vector<int32_t>{-0x7FFFFFFF, 0x0A0B0C0D, -9}));
+    Bytes out(11, 9);
+    intArrayToByteArray(values.data(), -1, out.data());
+    EXPECT_EQ(out, Bytes(11, 9));
+    intArrayToByteArray(values.data(), 2, out.data());
+    EXPECT_EQ(out, bytes);
 }
 
 TEST(SlotId, ConvertsEachWayByItsOwnTable)

@@ -10,14 +10,13 @@ namespace {
 
 std::vector<std::pair<char, void*>> calls;
 
-void first(RADIO_EVENT_TYPE, void* user, void*, int)
+template <char listener>
+void heard(RADIO_EVENT_TYPE, void* user, void*, int)
 {
-    calls.emplace_back('1', user);
+    calls.emplace_back(listener, user);
 }
-void second(RADIO_EVENT_TYPE, void* user, void*, int)
-{
-    calls.emplace_back('2', user);
-}
+constexpr auto first = heard<'1'>;
+constexpr auto second = heard<'2'>;
 
 void convert(void* indication, int, void* user, RadioEventCallback callback)
 {

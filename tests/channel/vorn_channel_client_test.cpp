@@ -7,45 +7,41 @@
 
 #include <gmock/gmock.h>
 
-
 using namespace test;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(ChannelClient, FindsTheDeviceOfItsPlatform)
 {
-    const std::string longDevice = "/dev/" + std::string(65, 'x');
-    const struct {
-        const char* file; ///< null: none
-        std::string device;
-    } cases[] = {
-        {nullptr, "/dev/ttyCVORN8"},
-        {"not xml", "/dev/ttyCVORN8"},
-        {"<vorn_device_config><platform name='board1' vorn_device='/dev/ttyX'/>", "/dev/ttyCVORN8"},
-        {"<other><platform name='board1' vorn_device='/dev/ttyX'/></other>", "/dev/ttyCVORN8"},
-        {"<vorn_device_config/>", "/dev/ttyCVORN8"},
-        {"<vorn_device_config><platform name='Board1' vorn_device='/dev/ttyX'/></vorn_device_config>",
-         "/dev/ttyCVORN8"},
-        {"<vorn_device_config><platform vorn_device='/dev/ttyX'/></vorn_device_config>", "/dev/ttyCVORN8"},
-        {"<!-- c --><vorn_device_config><x name='board1' vorn_device='/dev/no'/><platform name='board1'/>"
-         "<platform name='board2' vorn_device='/dev/no'/><platform name='board1' vorn_device='/dev/ttyX'/>"
-         "<platform name='board1' vorn_device='/dev/ttyY'/></vorn_device_config>",
-         "/dev/ttyX"},
-        {"<vorn_device_config><platform name='board1' vorn_device=''/></vorn_device_config>", ""},
+    const std::string kNone = "/dev/ttyCVORN8";
+    const auto config = [](const std::string& platforms) {
+        return "<vorn_device_config>" + platforms + "</vorn_device_config>";
     };
-    for (const auto& row : cases) {
-        const DeviceRoot root;
-        root.write("default.prop", "ro.boot.hardware=board1\n");
-        if (row.file != nullptr) {
-            root.write("odm/etc/vorn_device_config.xml", row.file);
-        }
+    const std::pair<std::string, std::string> rows[] = {
+        {"not xml", kNone},
+        {"<vorn_device_config><platform name='board1' vorn_device='/dev/ttyX'/>", kNone},
+        {"<other><platform name='board1' vorn_device='/dev/ttyX'/></other>", kNone},
+        {config(""), kNone},
+        {config("<platform name='Board1' vorn_device='/dev/ttyX'/>"), kNone},
+        {config("<platform vorn_device='/dev/ttyX'/>"), kNone},
+        {"<!-- c -->" + config("<x name='board1' vorn_device='/dev/no'/><platform name='board1'/>"
+                               "<platform name='board2' vorn_device='/dev/no'/>"
+                               "<platform name='board1' vorn_device='/dev/ttyX'/>"
+                               "<platform name='board1' vorn_device='/dev/ttyY'/>"),
+         "/dev/ttyX"},
+        {config("<platform name='board1' vorn_device=''/>"), ""},
+    };
+    const DeviceRoot root;
+    root.write("default.prop", "ro.boot.hardware=board1\n");
+    for (const auto& [file, device] : rows) {
+        root.write("odm/etc/vorn_device_config.xml", file);
         LogCapture log;
         const VornChannelClient client(false);
-        EXPECT_TRUE(log.has("D VornChannelClient: mVornDeviceName is " + row.device)) << row.file;
+        EXPECT_TRUE(log.has("D VornChannelClient: mVornDeviceName is " + device)) << file;
     }
-    const DeviceRoot root;
-    root.write("odm/etc/vorn_device_config.xml", "<vorn_device_config><platform name='b' vorn_device='" +
-                                                     longDevice + "'/></vorn_device_config>");
+    const std::string longDevice = "/dev/" + std::string(65, 'x');
+    root.write("odm/etc/vorn_device_config.xml",
+               config("<platform name='b' vorn_device='" + longDevice + "'/>"));
     char device[VornChannelClient::kDeviceNameSize];
     EXPECT_TRUE(VornChannelClient::parseVornDeviceName("b", device));
     EXPECT_EQ(device, longDevice.substr(0, 63));
