@@ -3,11 +3,11 @@
 #include "command_message.h"
 #include "frame_stream.h"
 #include "sim/modem.h"
+#include "support/fields.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
-#include <vector>
 
 namespace {
 
@@ -20,15 +20,9 @@ public:
 
     static void writeAgain(const vorn_msg_t& message)
     {
-        std::vector<uint8_t> first;
-        host::Message::of(message).encode(first);
-        const host::MessagePtr read = host::decodeFrame(first);
-        if (!read) {
-            std::abort();
-        }
-        std::vector<uint8_t> second;
-        host::Message::of(*read).encode(second);
-        if (first != second) {
+        const test::Bytes frame = test::frame(message);
+        const host::MessagePtr read = host::decodeFrame(frame);
+        if (!read || test::frame(*read) != frame) {
             std::abort();
         }
     }
