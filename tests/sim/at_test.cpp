@@ -48,6 +48,7 @@ TEST(AtCommands, Answers)
                       {"AT+CMEE=0", kOk},
                       {"AT+CEMODE=4", kError},
                       {"AT+CIMI", "\r\n001010123456789\r\n\r\nOK\r\n"},
+                      {"AT+CIMI=?", kOk},
                       {"AT+CIMI?", kError},
                       {"AT+EGMC = 1,\"NrTas_onoff\",1", kOk},
                       {"AT+EGMC=0,\"NrTas_onoff\"", "\r\n+EGMC: \"NrTas_onoff\",1\r\n\r\nOK\r\n"},

@@ -12,10 +12,9 @@ class Faults : public ModemTest {
 protected:
     void add(const std::string& fault)
     {
-        EXPECT_EQ(control(R"({"command": "fault-add", "fault": )" + fault + "}"), ok);
+        EXPECT_TRUE(control(R"({"command": "fault-add", "fault": )" + fault + "}")["ok"]);
     }
 
-    const nlohmann::json ok = {{"ok", true}};
     const FieldMap sar{{256, i32(1)}, {257, i32(2)}};
 };
 

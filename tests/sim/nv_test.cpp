@@ -52,6 +52,7 @@ TEST_F(Nv, FileIsChecked)
     const std::pair<std::string, std::string> rows[] = {
         {"", "parse error"},
         {R"({"slots": [[]]})", "nv.json: /slots: must have 3 entries"},
+        {R"({"slots": [[], [], []], "more": 1})", "nv.json: /more: unknown name"},
         {R"({"slots": [[], [{"id": 1, "index": 0, "data": "0"}], []]})",
          "nv.json: /slots/1/0/data: has an odd"},
         {R"({"slots": [[{"id": 1, "index": 0, "data": ")" + std::string(2 * 20481, '0') + R"("}], [], []]})",

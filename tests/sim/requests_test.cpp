@@ -28,12 +28,7 @@ TEST_F(Requests, ThatFitNoRowAreRefused)
     const FieldMap one = {{256, i32(1)}};
     const FieldMap arrayOfOne = {{256, std::vector<Bytes>{{1, 0, 0, 0}}}};
     const FieldMap tooMuch = {{256, i32(1)}, {257, i32(0)}, {0x8102, Bytes(20481)}};
-    const struct {
-        uint16_t id;
-        uint8_t slotBit;
-        FieldMap fields;
-        std::string reason;
-    } rows[] = {
+    const std::tuple<uint16_t, uint8_t, FieldMap, std::string> rows[] = {
         {0x3801, 1, {}, "SendScreenState: field 256 (screenState) is missing"},
         {0x3801, 1, {{256, u8(1)}}, "SendScreenState: field 256 (screenState) has 1 bytes instead of 4"},
         {0x3801, 1, arrayOfOne, "SendScreenState: field 256 (screenState) is an array"},
@@ -49,11 +44,11 @@ TEST_F(Requests, ThatFitNoRowAreRefused)
         {0x3801, 0, one, "slot id 0"},
         {0x3801, 8, one, "slot id 8"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.reason);
-        EXPECT_THAT(ask(row.id, row.fields, row.slotBit), ElementsAre(Pair(0, i32(21))));
+    for (const auto& [id, slotBit, fields, reason] : rows) {
+        SCOPED_TRACE(reason);
+        EXPECT_THAT(ask(id, fields, slotBit), ElementsAre(Pair(0, i32(21))));
         EXPECT_THAT(mLog, testing::AllOf(StartsWith("sim: request 0x"), testing::HasSubstr(" refused: "),
-                                         testing::EndsWith(row.reason)));
+                                         testing::EndsWith(reason)));
     }
 }
 

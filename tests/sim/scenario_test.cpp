@@ -97,6 +97,8 @@ TEST_F(Control, Errors)
         {"7", "/: must be an object"},
         {R"({"command": "fly"})", "/command: unknown command"},
         {R"({"command": "state", "slot": 1})", "/slot: unknown name"},
+        {R"({"command": "indicate", "message": "TestInd", "slot": 0, "fields": {"data": 1, "more": 2}})",
+         "/fields/more: unknown name"},
         {R"({"command": "indicate", "message": "TestInd", "slot": 0, "fields": {"data": 2147483648}})",
          "/fields/data: must be -2147483648 to 2147483647"},
         {R"({"command": "indicate", "message": "nec", "slot": 0, "value": 1})",

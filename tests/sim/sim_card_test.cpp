@@ -22,37 +22,22 @@ ByteArray<size> array(const std::string& digits)
     return bytes;
 }
 
-/// Two of the test sets of 3GPP TS 35.208; the cards below have another one.
+/// Of a test set of 3GPP TS 35.208; the cards below have another one.
 TEST(Milenage, GivesThePublishedValues)
 {
-    const struct {
-        std::string k, rand, sqn, amf, op, opc, f1, f1Star, f2, f5, f3, f4, f5Star;
-    } sets[] = {
-        {"0396eb317b6d1c36f19c1c84cd6ffd16", "c00d603103dcee52c4478119494202e8", "fd8eef40df7d", "af17",
-         "ff53bade17df5d4e793073ce9d7579fa", "53c15671c60a4b731c55b4a441c0bde2", "5df5b31807e258b0",
-         "a8c016e51ef4a343", "d3a628ed988620f0", "c47783995f72", "58c433ff7a7082acd424220f2b67c556",
-         "21a8c1f929702adb3e738488b9f5c5da", "30f1197061c1"},
-        {"fec86ba6eb707ed08905757b1bb44b8f", "9f7c8d021accf4db213ccff0c7f71a6a", "9d0277595ffc", "725c",
-         "dbc59adcb6f9a0ef735477b7fadf8374", "1006020f0a478bf6b699f15c062e42b3", "9cabc3e99baf7281",
-         "95814ba2b3044324", "8011c48c0c214ed2", "33484dc2136b", "5dbdbb2954e8f3cde665b046179a5098",
-         "59a92d3b476a0443487055cf88b2307b", "deacdd848cc6"},
-    };
-    for (const auto& set : sets) {
-        SCOPED_TRACE(set.k);
-        const auto k = array<16>(set.k);
-        const auto opc = Milenage::opcOf(k, array<16>(set.op));
-        EXPECT_EQ(opc, array<16>(set.opc));
-        const Milenage functions(k, opc, array<16>(set.rand));
-        const auto sqn = array<6>(set.sqn);
-        const auto amf = array<2>(set.amf);
-        EXPECT_EQ(functions.networkMac(sqn, amf), array<8>(set.f1));
-        EXPECT_EQ(functions.resyncMac(sqn, amf), array<8>(set.f1Star));
-        EXPECT_EQ(functions.response(), array<8>(set.f2));
-        EXPECT_EQ(functions.cipherKey(), array<16>(set.f3));
-        EXPECT_EQ(functions.integrityKey(), array<16>(set.f4));
-        EXPECT_EQ(functions.anonymityKey(), array<6>(set.f5));
-        EXPECT_EQ(functions.resyncAnonymityKey(), array<6>(set.f5Star));
-    }
+    const auto k = array<16>("fec86ba6eb707ed08905757b1bb44b8f");
+    const auto opc = Milenage::opcOf(k, array<16>("dbc59adcb6f9a0ef735477b7fadf8374"));
+    EXPECT_EQ(opc, array<16>("1006020f0a478bf6b699f15c062e42b3"));
+    const Milenage functions(k, opc, array<16>("9f7c8d021accf4db213ccff0c7f71a6a"));
+    const auto sqn = array<6>("9d0277595ffc");
+    const auto amf = array<2>("725c");
+    EXPECT_EQ(functions.networkMac(sqn, amf), array<8>("9cabc3e99baf7281"));
+    EXPECT_EQ(functions.resyncMac(sqn, amf), array<8>("95814ba2b3044324"));
+    EXPECT_EQ(functions.response(), array<8>("8011c48c0c214ed2"));
+    EXPECT_EQ(functions.cipherKey(), array<16>("5dbdbb2954e8f3cde665b046179a5098"));
+    EXPECT_EQ(functions.integrityKey(), array<16>("59a92d3b476a0443487055cf88b2307b"));
+    EXPECT_EQ(functions.anonymityKey(), array<6>("33484dc2136b"));
+    EXPECT_EQ(functions.resyncAnonymityKey(), array<6>("deacdd848cc6"));
 }
 
 class SimCards : public ModemTest {
@@ -61,8 +46,8 @@ protected:
     const std::string mAutn = "1055f328b43577b9b94a9ffac354dfafb3";
     const std::string mKeys = "10b40ba9a3c58b2a05bbf0d987b21bf8cb10f769bcd751044604127672711c6d3441";
 
-    /// What the card says; nothing when it fails.
-    Bytes challenge(const std::string& digits, size_t missing = 0, uint8_t slotBit = 1)
+    /// What the card says, in digits; nothing when it fails.
+    std::string challenge(const std::string& digits, size_t missing = 0, uint8_t slotBit = 1)
     {
         const Bytes data = fromHex(digits);
         const Value length = toBytes(static_cast<uint16_t>(data.size() + missing));
@@ -72,9 +57,9 @@ protected:
             EXPECT_THAT(answer, ElementsAre(Pair(0, i32(1))));
             return {};
         }
-        auto content = std::get<Bytes>(answer[0x8102]);
+        const auto content = std::get<Bytes>(answer[0x8102]);
         EXPECT_EQ(answer[257], Value(toBytes(static_cast<uint16_t>(content.size()))));
-        return content;
+        return hexDigits(content);
     }
 };
 
@@ -83,22 +68,18 @@ TEST_F(SimCards, AnswerTheirNetworkOnce)
     const std::string otherMac = "1055f328b43577b9b94a9ffac354dfafb4";
     for (const auto& wrong : {std::string(), mRand, mRand + otherMac, mRand + mAutn + "00",
                               "11" + mRand.substr(2) + mAutn, mRand + "00" + mAutn.substr(2)}) {
-        EXPECT_EQ(challenge(wrong), Bytes()) << wrong;
+        EXPECT_EQ(challenge(wrong), "") << wrong;
     }
-    EXPECT_EQ(challenge(mRand + mAutn, 1), Bytes());
-    EXPECT_EQ(challenge(mRand + mAutn, 0, 4), Bytes()) << "no card";
-    EXPECT_EQ(challenge(mRand + mAutn), fromHex("db08a54211d5e3ba50bf" + mKeys));
+    EXPECT_EQ(challenge(mRand + mAutn, 1), "");
+    EXPECT_EQ(challenge(mRand + mAutn, 0, 4), "") << "no card";
+    EXPECT_EQ(challenge(mRand + mAutn), "db08a54211d5e3ba50bf" + mKeys);
 
     // The sequence number was used: AUTS tells the last one, ff9bb4d0b607, concealed by 451e8beca43b.
-    const auto used = [&] {
-        const Bytes answer = challenge(mRand + mAutn);
-        return answer.size() == 16 &&
-               std::ranges::equal(fromHex("dc0eba853f3c123c"), std::span(answer).first(8));
-    };
-    EXPECT_TRUE(used());
+    const auto tellsLast = testing::AllOf(testing::StartsWith("dc0eba853f3c123c"), testing::SizeIs(2 * 16));
+    EXPECT_THAT(challenge(mRand + mAutn), tellsLast);
     control(R"({"command": "restart"})");
-    EXPECT_TRUE(used()) << "the card remembers";
-    EXPECT_EQ(challenge(mRand + mAutn, 0, 2).size(), 44U) << "slots are apart";
+    EXPECT_THAT(challenge(mRand + mAutn), tellsLast) << "the card remembers";
+    EXPECT_EQ(challenge(mRand + mAutn, 0, 2).size(), 2 * 44U) << "slots are apart";
 }
 
 TEST_F(SimCards, NeedPower)
@@ -112,9 +93,9 @@ TEST_F(SimCards, NeedPower)
     ASSERT_EQ(mIndications.size(), 2U);
     EXPECT_THAT(mIndications[0].fields, ElementsAre(Pair(257, u8(0)), Pair(258, u8(0))));
     EXPECT_THAT(mIndications[1].fields, ElementsAre(Pair(256, u8(1))));
-    EXPECT_EQ(challenge(mRand + mAutn), Bytes());
+    EXPECT_EQ(challenge(mRand + mAutn), "");
     EXPECT_EQ(power(1), u8(1));
-    EXPECT_EQ(challenge(mRand + mAutn).size(), 44U);
+    EXPECT_EQ(challenge(mRand + mAutn).size(), 2 * 44U);
 }
 
 } // namespace
