@@ -2,7 +2,7 @@
 /// same one when they are written again, and the simulated modem takes each as a request.
 #include "command_message.h"
 #include "frame_stream.h"
-#include "sim/modem.h"
+#include "nobody.h"
 #include "support/fields.h"
 
 #include <algorithm>
@@ -12,11 +12,9 @@
 namespace {
 
 /// Takes what the modem sends as the other side would.
-class Reader : public sim::Output {
-public:
+struct Reader : fuzz::Nobody {
     void answer(sim::ClientId, sim::Message message) override { writeAgain(*message); }
     void indicate(sim::Message message) override { writeAgain(*message); }
-    void disconnect(std::chrono::milliseconds) override {}
 
     static void writeAgain(const vorn_msg_t& message)
     {

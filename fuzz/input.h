@@ -27,17 +27,14 @@ inline void addField(vorn_msg_t* message, Input& input)
     const uint16_t tag = kTags[(kind & 3) | (kind >> 1 & 12)];
     const Input length = take(input, 2);
     const Input value = take(input, length.size() == 2 ? size_t{length[0]} + (size_t{length[1]} << 8) : 0);
-    // The message library refuses null values; an empty field needs a place to point to.
-    const uint8_t nothing = 0;
-    const uint8_t* bytes = value.empty() ? &nothing : value.data();
     if ((kind & 4) == 0) {
-        vorn_msg_add_tlv(message, tag, static_cast<uint16_t>(value.size()), bytes);
+        vorn_msg_add_tlv(message, tag, static_cast<uint16_t>(value.size()), value.data());
         return;
     }
     const auto count = static_cast<uint16_t>(kind >> 5);
     vorn_msg_add_array(message, tag, count);
     for (uint16_t i = 0; i < count; ++i) {
-        vorn_msg_add_idx(message, tag, i, static_cast<uint16_t>(value.size()), bytes);
+        vorn_msg_add_idx(message, tag, i, static_cast<uint16_t>(value.size()), value.data());
     }
 }
 

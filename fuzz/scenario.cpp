@@ -19,7 +19,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
             modem.advance(*due);
         }
     } catch (const sim::ScenarioError&) {
-        return 0; // refused with a reason
+        // refused with a reason
     }
     return 0;
 }

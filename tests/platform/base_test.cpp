@@ -2,13 +2,13 @@
 #include "host/device.h"
 #include "mindroid/exception.h"
 #include "mindroid/parcel.h"
+#include "support/device_root.h"
 #include "zor/log.h"
 #include "zor/property.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <fstream>
+#include <optional>
 #include <unistd.h>
 
 namespace {
@@ -53,11 +53,9 @@ TEST(Log, raisesNoSignalWhenItsReaderLeaves)
 
 TEST(Properties, comeFromTheDeviceRootUnlessSet)
 {
-    const std::string root = testing::TempDir();
-    std::ofstream(root + "/default.prop")
-        << "# a.comment=1\n  a.key= v = w \nno line\n=x\na.long=" << std::string(100, 'l')
-        << "\na.set=file\nlast=end";
-    setenv("RADIO_DEVICE_ROOT", root.c_str(), 1);
+    std::optional<test::DeviceRoot> root(std::in_place);
+    root->write("default.prop", "# a.comment=1\n  a.key= v = w \nno line\n=x\na.long=" +
+                                    std::string(100, 'l') + "\na.set=file\nlast=end");
     host::setProperty("a.set", "process");
     const std::pair<const char*, std::string> rows[] = {
         {"a.key", " v = w "},   {"# a.comment", "default"},
@@ -68,7 +66,7 @@ TEST(Properties, comeFromTheDeviceRootUnlessSet)
         EXPECT_EQ(zor_property_get(key, value, "default"), static_cast<int>(expected.size())) << key;
         EXPECT_EQ(value, expected) << key;
     }
-    unsetenv("RADIO_DEVICE_ROOT");
+    root.reset();
     char value[92] = "old";
     EXPECT_EQ(property_get("last", value, nullptr), 0);
     EXPECT_STREQ(value, "");

@@ -1,4 +1,5 @@
 #include "frame_stream.h"
+#include "support/fields.h"
 
 #include <gtest/gtest.h>
 
@@ -6,17 +7,9 @@
 
 namespace {
 
-using host::Message;
 using host::MessagePtr;
-using Bytes = std::vector<uint8_t>;
+using test::Bytes;
 using Bytes4 = std::array<uint8_t, host::kFrameSizeBytes>;
-
-Bytes frameOf(const MessagePtr& message)
-{
-    Bytes frame;
-    Message::of(*message).encode(frame);
-    return frame;
-}
 
 /// A field, an array with a gap, and an element that stands apart from its array.
 Bytes sampleFrame()
@@ -26,7 +19,7 @@ Bytes sampleFrame()
     vorn_msg_add_idx(message.get(), 256, 0, 2, "ab");
     vorn_msg_add_tlv(message.get(), 0, 4, "\0\0\0\0");
     vorn_msg_add_idx(message.get(), 256, 2, 1, "z");
-    return frameOf(message);
+    return test::frame(*message);
 }
 
 TEST(Frame, comesBackAsTheSameMessage)
@@ -37,7 +30,7 @@ TEST(Frame, comesBackAsTheSameMessage)
     ASSERT_TRUE(message);
     EXPECT_EQ(message->hdr.tx_id, 0x1234);
     EXPECT_EQ(*static_cast<char*>(vorn_msg_get_idx_ptr(message.get(), 256, 2, nullptr)), 'z');
-    EXPECT_EQ(frameOf(message), frame);
+    EXPECT_EQ(test::frame(*message), frame);
 }
 
 TEST(Frame, malformedOnesAreRefused)
@@ -53,9 +46,8 @@ TEST(Frame, malformedOnesAreRefused)
         {"elements out of order", {2, 0, 0, 2, 0, 2, 0, 1, 0, 0, 0, 0, 0, 0, 0}},
     };
     for (const auto& [what, body] : rows) {
-        Bytes frame = {static_cast<uint8_t>(5 + body.size()), 0, 0, 0, 1, 0, 2, 0, 1};
-        frame.insert(frame.end(), body.begin(), body.end());
-        EXPECT_FALSE(host::decodeFrame(frame)) << what;
+        const auto size = static_cast<uint8_t>(5 + body.size());
+        EXPECT_FALSE(host::decodeFrame(test::joined({{size, 0, 0, 0, 1, 0, 2, 0, 1}, body}))) << what;
     }
     EXPECT_FALSE(host::frameSize(Bytes4{4, 0, 0, 0}) || host::frameSize(Bytes4{0, 0, 0x11, 0}));
 }
@@ -69,9 +61,9 @@ TEST(Frame, takesMemoryForWhatItHolds)
         vorn_msg_add_idx(message.get(), tag, 500, 5, "first");
         vorn_msg_add_idx(message.get(), tag, 2000, 3, "mid");
     }
-    const MessagePtr decoded = host::decodeFrame(frameOf(message));
-    EXPECT_LT(Message::of(*decoded).memoryUse(), 1000U);
-    EXPECT_EQ(frameOf(decoded), frameOf(message));
+    const MessagePtr decoded = host::decodeFrame(test::frame(*message));
+    EXPECT_LT(host::Message::of(*decoded).memoryUse(), 1000U);
+    EXPECT_EQ(test::frame(*decoded), test::frame(*message));
     EXPECT_EQ(vorn_msg_get_tlv_num(decoded.get(), 2), 65535);
     for (const auto& [index, length] :
          {std::pair(65534, 4), {500, 5}, {2000, 3}, {499, 0}, {0, 0}, {65533, 0}}) {
@@ -83,16 +75,10 @@ TEST(Frame, takesMemoryForWhatItHolds)
 
 TEST(FrameStream, cutsWhateverPiecesCome)
 {
-    const MessagePtr large(vorn_msg_init_with_txid(1, 1, 2));
-    const Bytes value(60'000, 'v');
-    for (uint16_t tag = 1; tag < 5; ++tag) {
-        vorn_msg_add_tlv(large.get(), tag, static_cast<uint16_t>(value.size()), value.data());
-    }
-    const std::vector<Bytes> frames = {sampleFrame(), frameOf(large), sampleFrame()};
-    Bytes all;
-    for (const Bytes& frame : frames) {
-        all.insert(all.end(), frame.begin(), frame.end());
-    }
+    const auto value = test::raw(1, Bytes(60'000, 'v'));
+    const MessagePtr large = test::message(1, 1, 2, {value, value, value, value});
+    const std::vector<Bytes> frames = {sampleFrame(), test::frame(*large), sampleFrame()};
+    Bytes all = test::joined({frames[0], frames[1], frames[2]});
     for (const size_t piece : {size_t{1}, size_t{7}, size_t{4096}, all.size()}) {
         host::FrameStream stream;
         std::vector<Bytes> cut;

@@ -9,11 +9,6 @@ namespace {
 
 using host::MessagePtr;
 
-MessagePtr newMessage()
-{
-    return MessagePtr(vorn_msg_init(0x3801, 2));
-}
-
 bool add(const MessagePtr& message, uint16_t tag, const std::string& value)
 {
     return vorn_msg_add_tlv(message.get(), tag, static_cast<uint16_t>(value.size()), value.data()) == 0;
@@ -57,7 +52,7 @@ std::string element(const MessagePtr& message, int tag, int index)
 
 TEST(Message, fieldsAreReadByTag)
 {
-    const MessagePtr message = newMessage();
+    const MessagePtr message(vorn_msg_init(0x3801, 2));
     const std::string text("text\0more", 9);
     EXPECT_TRUE(add(message, 256, "one") && add(message, 257, "") && add(message, 256, "again"));
     EXPECT_TRUE(addArray(message, 258, 1) && add(message, 65535, text));
@@ -69,7 +64,7 @@ TEST(Message, fieldsAreReadByTag)
 
 TEST(Message, arraysTakeTheirElementsInAnyOrder)
 {
-    const MessagePtr message = newMessage();
+    const MessagePtr message(vorn_msg_init(0x3801, 2));
     EXPECT_TRUE(addArray(message, 1, 3) && addElement(message, 1, 0, "a0") && addArray(message, 2, 64));
     for (uint16_t i = 0; i < 64; ++i) {
         EXPECT_TRUE(addElement(message, 2, i, std::to_string(i)));
@@ -96,7 +91,7 @@ TEST(Message, arraysTakeTheirElementsInAnyOrder)
 
 TEST(Message, refusesWhatDoesNotFit)
 {
-    const MessagePtr message = newMessage();
+    const MessagePtr message(vorn_msg_init(0x3801, 2));
     const std::string value(65535, 'v');
     size_t fields = 0;
     while (add(message, 1, value)) {
@@ -107,7 +102,7 @@ TEST(Message, refusesWhatDoesNotFit)
     EXPECT_EQ(field(message, 1) + field(message, 2), value + "-");
 
     // What is added may be the message's own bytes, which move when it grows.
-    const MessagePtr growing = newMessage();
+    const MessagePtr growing(vorn_msg_init(0x3801, 2));
     EXPECT_TRUE(add(growing, 1, std::string(200, 'x')));
     EXPECT_EQ(vorn_msg_add_tlv(growing.get(), 2, 200, vorn_msg_get_val_ptr(growing.get(), 1, nullptr)), 0);
     EXPECT_EQ(field(growing, 2), std::string(200, 'x'));
@@ -115,7 +110,7 @@ TEST(Message, refusesWhatDoesNotFit)
 
 TEST(Message, nullIsRefused)
 {
-    const MessagePtr message = newMessage();
+    const MessagePtr message(vorn_msg_init(0x3801, 2));
     EXPECT_EQ(vorn_msg_copy_hdr(nullptr), nullptr);
     EXPECT_FALSE(copy(nullptr, message) || copy(message, nullptr) || add(nullptr, 1, "x"));
     EXPECT_FALSE(addArray(nullptr, 1, 1) || addElement(nullptr, 1, 0, "x"));

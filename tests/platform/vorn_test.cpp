@@ -14,13 +14,11 @@ namespace {
 
 using testing::HasSubstr;
 
-void onAnswer(vorn_msg_t* answer, void* user)
-{
-    static_cast<Inbox<std::string>*>(user)->add(vorn_msg_get_val_str(answer, 0x8100));
-}
-
 void sendAt(Inbox<std::string>* answers)
 {
+    const auto onAnswer = [](vorn_msg_t* answer, void* user) {
+        static_cast<Inbox<std::string>*>(user)->add(vorn_msg_get_val_str(answer, 0x8100));
+    };
     vorn_msg_t* request = vorn_msg_init(3, 1);
     vorn_msg_add_tlv(request, 0x8100, 3, "AT");
     vorn_msg_async_api(request, onAnswer, 0, answers);

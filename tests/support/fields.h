@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstring>
 #include <functional>
+#include <numeric>
 #include <string_view>
 #include <vector>
 
@@ -48,9 +49,7 @@ inline Field result(uint32_t value)
 inline Field raw(uint16_t tag, Bytes bytes)
 {
     return [=](vorn_msg_t* message) {
-        const uint8_t nothing = 0;
-        vorn_msg_add_tlv(message, tag, static_cast<uint16_t>(bytes.size()),
-                         bytes.empty() ? &nothing : bytes.data());
+        vorn_msg_add_tlv(message, tag, static_cast<uint16_t>(bytes.size()), bytes.data());
     };
 }
 
@@ -66,9 +65,9 @@ inline Field array(uint16_t tag, std::vector<Bytes> elements)
 {
     return [=](vorn_msg_t* message) {
         vorn_msg_add_array(message, tag, static_cast<uint16_t>(elements.size()));
-        for (size_t i = 0; i < elements.size(); ++i) {
-            vorn_msg_add_idx(message, tag, static_cast<uint16_t>(i),
-                             static_cast<uint16_t>(elements[i].size()), elements[i].data());
+        for (uint16_t i = 0; i < elements.size(); ++i) {
+            const Bytes& bytes = elements[i];
+            vorn_msg_add_idx(message, tag, i, static_cast<uint16_t>(bytes.size()), bytes.data());
         }
     };
 }
@@ -114,9 +113,7 @@ Field numbers(uint16_t tag, std::vector<Number> values)
 inline Bytes counting(size_t size, uint8_t first = 1)
 {
     Bytes bytes(size);
-    for (size_t i = 0; i < size; ++i) {
-        bytes[i] = static_cast<uint8_t>(first + i);
-    }
+    std::iota(bytes.begin(), bytes.end(), first);
     return bytes;
 }
 
