@@ -176,7 +176,7 @@ const std::vector<std::pair<Call, Commands>>& settings()
 
 TEST_F(Configuration, SendsSettings)
 {
-    for (const unsigned number : {0, 2, 1}) {
+    for (const unsigned number : {0U, 2U, 1U}) {
         ASSERT_EQ(radioApisInit(kModem, number), 0);
         for (const auto& [request, commands] : settings()) {
             const bool fails = number == 2;

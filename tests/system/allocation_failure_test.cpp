@@ -286,9 +286,15 @@ void failEverywhere(const Case& what, const Report& good, std::optional<int> sam
 /// What the case does when nothing fails. The modem here goes on to the state that the case leaves it in.
 const Report& goodRun(const Case& what)
 {
+    constexpr int kTries = 3; // what is freed in time, and what a moment later, differs
     static Report good;
-    performApart(what, {}, *report);
+    long mostLeftOver = 0;
+    for (int i = 0; i < kTries; ++i) {
+        performApart(what, {}, *report);
+        mostLeftOver = std::max<long>(mostLeftOver, report->leftOver);
+    }
     std::memcpy(static_cast<void*>(&good), report, offsetof(Report, frames) + report->sent);
+    good.leftOver = mostLeftOver;
     modem().open(0ms);
     for (const auto& frame : framesOf(good)) {
         modem().send(*host::decodeFrame(frame));
