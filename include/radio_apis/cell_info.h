@@ -16,8 +16,7 @@ struct RadioLteCellInfo {
 /// A serving cell. The library passes the modem's words through as they are; the names tell what they stand
 /// for. Signal values are two's complement: cast to int32_t.
 struct RadioServingCell {
-    uint32_t
-        failure; ///< 1 when the modem reported a failure; the others are what its answer carried all the same
+    uint32_t failure;       ///< 1 when the modem failed; the others are what came along
     uint32_t rat;           ///< 4: LTE, 5: NR
     uint32_t mcc;           ///< mobile country code of the PLMN (3GPP TS 23.003)
     uint32_t mnc;           ///< mobile network code of the PLMN
@@ -60,8 +59,7 @@ inline constexpr unsigned kRadioMaxNeighbourCells = 64; ///< that an answer hold
 /// Result of radioGetAllCellularCellInfo.
 struct RadioAllCellInfo {
     RadioServingCell serving; ///< the serving cell
-    uint32_t
-        neighbourCount; ///< in an answer at most 64, the modem's first ones; in an event as the modem has it
+    uint32_t neighbourCount;  ///< at most 64 in an answer; in an event as the modem has it
     RadioNeighbourCell neighbours[kRadioMaxNeighbourCells]; ///< the first `neighbourCount` count
 };
 

@@ -95,8 +95,7 @@ static_assert(sizeof(RegRadioEvtType) == 4);
 
 /// Record of RADIO_EVENT_NW_ETX_POWER.
 struct RadioNwEtxPower {
-    int32_t
-        txPower; ///< the modem's value, in eighths, as whole units times 100; what is left over is dropped
+    int32_t txPower; ///< in hundredths of a unit; the modem counts eighths, of which only whole units stay
 };
 static_assert(sizeof(RadioNwEtxPower) == 4);
 

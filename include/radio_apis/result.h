@@ -11,10 +11,9 @@ struct RadioApisResultType;
 
 /// What became of a request. 0 is success, every other value a failure.
 enum RADIO_APIS_RESULT : int32_t {
-    RADIO_APIS_SUCCESS = 0, ///< carried out; the record holds the result
-    RADIO_APIS_FAILURE = 1, ///< not sent, no memory, or failed in the modem without a closer reason
-    RADIO_APIS_NOT_SUPPORTED =
-        2, ///< an argument's value, or the channel, is not supported; modem results 105, 106
+    RADIO_APIS_SUCCESS = 0,           ///< carried out; the record holds the result
+    RADIO_APIS_FAILURE = 1,           ///< not sent, no memory, or failed in the modem without a closer reason
+    RADIO_APIS_NOT_SUPPORTED = 2,     ///< an argument, or the channel, is not; modem results 105, 106
     RADIO_APIS_MODEM_RESULT_31 = 10,  ///< modem result 31
     RADIO_APIS_INVALID_PARAMETER = 11 ///< an argument is missing or out of its range; modem result 21
 };
