@@ -4,8 +4,6 @@
 
 #include <gmock/gmock.h>
 
-#include <random>
-
 using namespace test;
 using mindroid::Parcel;
 using mindroid::sp;
@@ -124,22 +122,8 @@ TEST(AtCmdParser, SplitsGivenData)
     EXPECT_THROW(untyped->getInt(), mindroid::ParcelException);
 }
 
-TEST(AtCmdParser, SurvivesAnything)
+TEST(AtCmdParser, TakesAnyNumberOfFields)
 {
-    std::mt19937 random(20);
-    const std::string pieces[] = {"\r\n", "OK",          ",",  ":",  " ",     "+X",
-                                  "-",    "99999999999", "\r", "\n", "ERROR", "\xFF"};
-    for (int i = 0; i < 100000; ++i) {
-        std::string answer;
-        for (auto n = random() % 20; n-- > 0;) {
-            const auto choice = random() % 16;
-            answer +=
-                choice < std::size(pieces) ? pieces[choice] : std::string(1, static_cast<char>(random()));
-        }
-        const auto parcel = parser.parserAtCmdResponse(String::valueOf(answer));
-        fieldsOf(*parcel);
-        rawOf(*parser.parserAtCmdResponseAsRawStr(String::valueOf(answer)));
-    }
     for (const int count : {31, 32, 33, 34, 100}) {
         std::string answer = "+X: 0";
         std::string expected = "true " + std::to_string(count) + " i0";

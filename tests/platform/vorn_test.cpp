@@ -1,6 +1,4 @@
 // The message library as its callers see it, with the simulated modem inside.
-#include "inbox.h"
-
 #include "host/log_sink.h"
 #include "vorn/vorn_msg.h"
 
@@ -13,17 +11,6 @@
 namespace {
 
 using testing::HasSubstr;
-
-void sendAt(Inbox<std::string>* answers)
-{
-    const auto onAnswer = [](vorn_msg_t* answer, void* user) {
-        static_cast<Inbox<std::string>*>(user)->add(vorn_msg_get_val_str(answer, 0x8100));
-    };
-    vorn_msg_t* request = vorn_msg_init(3, 1);
-    vorn_msg_add_tlv(request, 0x8100, 3, "AT");
-    vorn_msg_async_api(request, onAnswer, 0, answers);
-    vorn_msg_deinit(request);
-}
 
 TEST(Vorn, opensWhatTheDeviceNameStandsFor)
 {
@@ -49,21 +36,6 @@ TEST(Vorn, opensWhatTheDeviceNameStandsFor)
         vorn_deinit();
     }
     host::setLogSink(nullptr);
-}
-
-TEST(Vorn, processMayEndWhileItIsOpen)
-{
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto endWithRequests = [] {
-        static Inbox<std::string>& answers = *new Inbox<std::string>;
-        SETCOM("embedded");
-        vorn_init_debug("test");
-        sendAt(&answers);
-        answers.waitFor(1);
-        sendAt(&answers);
-        std::exit(0);
-    };
-    EXPECT_EXIT(endWithRequests(), testing::ExitedWithCode(0), "");
 }
 
 } // namespace
