@@ -1,25 +1,10 @@
 #include "support/fake_modem.h"
 
 #include <fmt/format.h>
-#include <gtest/gtest.h>
 
 #include <thread>
 
 namespace test {
-
-namespace {
-
-/// Lets each test of a process begin with a modem to which nothing has happened.
-struct Afresh : testing::EmptyTestEventListener {
-    void OnTestStart(const testing::TestInfo&) override { FakeModem::instance() = {}; }
-};
-
-[[maybe_unused]] const bool kListens = [] {
-    testing::UnitTest::GetInstance()->listeners().Append(new Afresh);
-    return true;
-}();
-
-} // namespace
 
 FakeModem& FakeModem::instance()
 {
