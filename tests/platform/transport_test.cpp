@@ -144,6 +144,7 @@ TEST_F(TransportTest, linkPausesWhileTooMuchWaits)
     held.waitFor(messages);
     EXPECT_EQ(modem.resumed.waitFor(1).size(), 1u);
     EXPECT_TRUE(modem.link->received(messageOf(0)));
+    transport.close();
 }
 
 TEST_F(TransportTest, transactionsAreNeverSharedAndRunOut)
