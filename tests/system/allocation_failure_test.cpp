@@ -295,6 +295,13 @@ const Report& goodRun(const Case& what)
     }
     std::memcpy(static_cast<void*>(&good), report, offsetof(Report, frames) + report->sent);
     good.leftOver = mostLeftOver;
+    // Context, message, what the message library copies of it and keeps, and what interprets an answer's text.
+    constexpr int kMostForOneMessage = 6;
+    if (what.kind == Case::Request && framesOf(good).size() == 1 &&
+        good.seen.allocations[memory::Caller] - what.ownAllocations > kMostForOneMessage) {
+        ++tally[3];
+        fmt::print("{}: {} allocations\n", what.name, good.seen.allocations[memory::Caller]);
+    }
     modem().open(0ms);
     for (const auto& frame : framesOf(good)) {
         modem().send(*host::decodeFrame(frame));
