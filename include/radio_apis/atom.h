@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Atoms}
+///
 /// Atoms: small applications inside the modem that collect data.
 #pragma once
 
@@ -40,41 +42,37 @@ extern "C" {
 /// Loads an application.
 ///
 /// @param application  see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// \verdict
+/// \sent
 RADIO_API int radioLoadAtomApplication(const RadioLoadAtomApplicationType& application, void* userData,
                                        RadioRequestCallback callback);
 
 /// Unloads an application.
 ///
-/// @param id        its number
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param id  its number
+/// \verdict
+/// \sent
 RADIO_API int radioUnloadAtomApplication(int id, void* userData, RadioRequestCallback callback);
 
 /// Switches an atom.
 ///
-/// @param id        which atom
-/// @param status    its status, passed through
-/// @param subPolicy passed through
-/// @param info      what it reports
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param id         which atom
+/// @param status     its status, passed through
+/// @param subPolicy  passed through
+/// @param info       what it reports
+/// \verdict
+/// \sent
 RADIO_API int radioSetAtomStatus(int id, int status, int subPolicy, const RadioAtomInfoType& info,
                                  void* userData, RadioRequestCallback callback);
 
 /// The data that atoms collected.
 ///
-/// @param type      kind of data, passed through
-/// @param option    passed through
-/// @param ids       which atoms; may be null when `count` is 0
-/// @param count     their number, at most 65535
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.atomData`
-/// @return 0 when handed to the modem; 11 for null ids or too many of them; 1 when refused otherwise
+/// @param type    kind of data, passed through
+/// @param option  passed through
+/// @param ids     which atoms; may be null when `count` is 0
+/// @param count   their number, at most 65535
+/// \fills{atomData}
+/// \sentor{11 for null ids or too many of them}
 RADIO_API int radioGetAtomData(int type, int option, int* ids, unsigned int count, void* userData,
                                RadioRequestCallback callback);
 

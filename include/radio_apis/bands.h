@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Bands}
+///
 /// Frequency bands: those that the modem may use, and those it could (3GPP TS 36.101, 38.101, 25.101, 45.005).
 ///
 /// Bands cross this interface as bytes, most significant first; which bit stands for which band depends on the
@@ -70,12 +72,12 @@ extern "C" {
 
 /// Sets the bands that the modem may use with one radio access technology.
 ///
-/// @param rat       a RadioBandRat; only its low 16 bits count
-/// @param bands     bytes as the head of this file tells; of GSM, UMTS and CDMA the first four count
-/// @param length    bytes, a multiple of 4 from 4 to 65404. The command has room for `length` + 127 characters and
-///                  is cut there without a word: RADIO_BAND_NR survives up to 112 bytes, RADIO_BAND_NR_SECOND up to
-///                  108, LTE up to 64 and, when its numbers are small, beyond
-/// @param userData  handed to `callback`
+/// @param rat     a RadioBandRat; only its low 16 bits count
+/// @param bands   bytes as the head of this file tells; of GSM, UMTS and CDMA the first four count
+/// @param length  bytes, a multiple of 4 from 4 to 65404. The command has room for `length` + 127 characters and is
+///                cut there without a word: RADIO_BAND_NR survives up to 112 bytes, RADIO_BAND_NR_SECOND up to 108,
+///                LTE up to 64 and, when its numbers are small, beyond
+/// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the bands, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
 /// @return 0 when handed to the modem; 1 when refused, as for null bands, another rat or another length: 0, no
@@ -85,35 +87,32 @@ RADIO_API int radioSetBandPrefer(int rat, const unsigned char* bands, unsigned i
 
 /// The bands of one radio access technology.
 ///
-/// @param rat       a RadioBandRat, with kRadioCurrentBands added for the bands in use. Of CDMA the modem tells only
-///                  those: they come without the flag, too, and then with a `current` of 0
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandPrefer`; with RADIO_APIS_FAILURE and a
-///                  record without bands when the answer has none that can be read; or with the modem's failure
-///                  and no record
-/// @return 0 when handed to the modem, 1 when refused, as for another rat
+/// @param rat  a RadioBandRat, with kRadioCurrentBands added for the bands in use. Of CDMA the modem tells only
+///             those: they come without the flag, too, and then with a `current` of 0
+/// \user
+/// @param callback  called once with RADIO_APIS_SUCCESS and \answer{bandPrefer}; with RADIO_APIS_FAILURE and a record
+///                  without bands when the answer has none that can be read; or with the modem's failure and no
+///                  record
+/// \sent{as for another rat}
 RADIO_API int radioGetBandPrefer(int rat, void* userData, RadioRequestCallback callback);
 
 /// The bands in use with GSM, UMTS and LTE.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandModes`; with RADIO_APIS_FAILURE and a
-///                  zeroed record when the answer lacks the masks of GSM and UMTS or has something else than
-///                  numbers; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \asks{bandModes, the answer lacks the masks of GSM and UMTS or has something else than numbers}
+/// \sent
 RADIO_API int radioGetAvailableBandModes(void* userData, RadioRequestCallback callback);
 
 /// The bands that the modem could use with one radio access technology, in the bits of user interfaces; for CDMA
 /// those in use. CDMA's side of the modem may be off, and is first switched on: world mode policy 0, then CDMA as
 /// the active technology. It stays on.
 ///
-/// @param nwType    RADIO_BAND_GSM, _UMTS, _CDMA, _LTE or _NR
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.bandInfo`; with RADIO_APIS_FAILURE and a
-///                  zeroed record when the answer can't be read or, for CDMA, a step failed; or, but for CDMA, with
-///                  the modem's failure and no record
-/// @return 0 when handed to the modem, and for CDMA 0 once started, also when the modem then can't be reached; 1
-///         when refused, as for another nwType
+/// @param nwType  RADIO_BAND_GSM, _UMTS, _CDMA, _LTE or _NR
+/// \user
+/// @param callback  called once with RADIO_APIS_SUCCESS and \answer{bandInfo}; with RADIO_APIS_FAILURE and a zeroed
+///                  record when the answer can't be read or, for CDMA, a step failed; or, but for CDMA, with the
+///                  modem's failure and no record
+/// @return 0 when handed to the modem, and for CDMA 0 once started, also when the modem then can't be reached; 1 when
+///         refused, as for another nwType
 RADIO_API int radioGetBand(int nwType, void* userData, RadioRequestCallback callback);
 
 /// How many transmit paths a band has. Takes two commands, of which the second one asks.
@@ -121,10 +120,10 @@ RADIO_API int radioGetBand(int nwType, void* userData, RadioRequestCallback call
 /// @param radioTech  radio access technology, as the modem numbers them
 /// @param uiBand     the band
 /// @param subband    part of the band; logged, since the modem's answer is for the whole band
-/// @param userData   handed to `callback`
-/// @param callback   called once with RADIO_APIS_SUCCESS and `rsp.bandTxNumInfo`, or with RADIO_APIS_FAILURE
-///                   and a zeroed record when the modem refused or the answer does not end in a number
-/// @return 0 once started, also when the modem then can't be reached
+/// \user
+/// @param callback  called once with RADIO_APIS_SUCCESS and \answer{bandTxNumInfo}, or with RADIO_APIS_FAILURE and a
+///                  zeroed record when the modem refused or the answer does not end in a number
+/// \started
 RADIO_API int radioGetBandsTxNum(int radioTech, int uiBand, int subband, void* userData,
                                  RadioRequestCallback callback);
 

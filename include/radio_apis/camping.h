@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Camping and barring}
+///
 /// Where the modem searches for cells and camps: receive levels, locks, barring, order of technologies
 /// (3GPP TS 36.304, TS 38.304).
 #pragma once
@@ -55,143 +57,114 @@ extern "C" {
 /// @param rat                  1: for LTE while in 3G or 2G; 0: for NR while in LTE, 3G or 2G
 /// @param ignoreNeighbourList  whether frequencies outside of the neighbour list count
 /// @param enable               whether to search
-/// @param userData             handed to `callback`
-/// @param callback             called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
-///                             RADIO_APIS_FAILURE at the first that it did not; the record is empty
-/// @return 0 once started, also when the modem then can't be reached; 1 for another rat
+/// \commands
+/// \started{1 for another rat}
 RADIO_API int radioSetBackgroundSearch(int rat, bool ignoreNeighbourList, bool enable, void* userData,
                                        RadioRequestCallback callback);
 
 /// Sets the least receive levels.
 ///
-/// @param info      see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused, as for another option
+/// @param info  see the record
+/// \command
+/// \sent{as for another option}
 RADIO_API int radioSetQrxlvminCfg(const RadioQrxlvminCfgInfo& info, void* userData,
                                   RadioRequestCallback callback);
 
 /// The least receive levels.
 ///
-/// @param rat       13: LTE, 20: NR
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.qrxlvmin`; with RADIO_APIS_FAILURE and a zeroed
-///                  record when the modem refused or the answer has another number of values, or other values
-///                  than numbers; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused, as for another rat
+/// @param rat  13: LTE, 20: NR
+/// \asks{qrxlvmin, the modem refused or the answer has another number of values\, or other values than numbers}
+/// \sent{as for another rat}
 RADIO_API int radioGetQrxlvminCfg(int rat, void* userData, RadioRequestCallback callback);
 
 /// Sets what happens for a SIM card in arrears.
 ///
-/// @param info      see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused, as for another option
+/// @param info  see the record
+/// \command
+/// \sent{as for another option}
 RADIO_API int radioSetArrearageCfg(const RadioArrearageCfgInfo& info, void* userData,
                                    RadioRequestCallback callback);
 
 /// Has the modem forget the frequencies that it remembers.
 ///
-/// @param option    logged only
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
-///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
-/// @return 0 once started, also when the modem then can't be reached
+/// @param option  logged only
+/// \commands
+/// \started
 RADIO_API int radioClearStoredFrequency(int option, void* userData, RadioRequestCallback callback);
 
 /// Sets in which order the modem scans the technologies.
 ///
-/// @param rats      in order of preference, numbered as in RadioBandRat: 4 LTE, 5 NR, 1 UMTS, 0 GSM. The first
-///                  one decides: LTE before NR, or NR before LTE
-/// @param count     LTE first: 3 or 4, since NR may be left out; NR first: 4
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused, as for null, another count or another first
-///         technology
+/// @param rats   in order of preference, numbered as in RadioBandRat: 4 LTE, 5 NR, 1 UMTS, 0 GSM. The first one
+///               decides: LTE before NR, or NR before LTE
+/// @param count  LTE first: 3 or 4, since NR may be left out; NR first: 4
+/// \command
+/// \sent{as for null, another count or another first technology}
 RADIO_API int radioSetRatScan(int* rats, int count, void* userData, RadioRequestCallback callback);
 
 /// Keeps the modem on one cell.
 ///
-/// @param info      see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused, as for a lock type or band indicator that
-///         there is not
+/// @param info  see the record
+/// \command
+/// \sent{as for a lock type or band indicator that there is not}
 RADIO_API int radioLockCellAndBand(RadioLockCellInfoType info, void* userData, RadioRequestCallback callback);
 
 /// Ends the lock of a cell.
 ///
-/// @param option    not sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param option  not sent
+/// \command
+/// \sent
 RADIO_API int radioUnlockCellAndBand(int option, void* userData, RadioRequestCallback callback);
 
 /// Sets whether a cell is barred after every radio link failure.
 ///
-/// @param value     0 off, 1 on
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param value  0 off, 1 on
+/// \command
+/// \sent
 RADIO_API int radioEnableCellBarring(unsigned char value, void* userData, RadioRequestCallback callback);
 
 /// Sets whether cells are barred between which the modem goes to and fro.
 ///
-/// @param type      0: neither, 1: those of LTE, 2: those of NR, 3: both
-/// @param barTime   how long a cell is barred, as the modem counts it; barTime, period and hitCnt are not sent
-///                  with type 0
-/// @param period    in which time changes are counted
-/// @param hitCnt    how many changes are too many
-/// @param reserve   logged only
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
-///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
-/// @return 0 once started, also when the modem then can't be reached; 1 for another type
+/// @param type     0: neither, 1: those of LTE, 2: those of NR, 3: both
+/// @param barTime  how long a cell is barred, as the modem counts it; barTime, period and hitCnt are not sent with
+///                 type 0
+/// @param period   in which time changes are counted
+/// @param hitCnt   how many changes are too many
+/// @param reserve  logged only
+/// \commands
+/// \started{1 for another type}
 RADIO_API int radioSetPingpongBarSetting(int type, int barTime, int period, int hitCnt, int reserve,
                                          void* userData, RadioRequestCallback callback);
 
 /// Has the modem return to a higher technology.
 ///
-/// @param rat       4: LTE, 5: NR
-/// @param reserve   not sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused, as for another rat
+/// @param rat      4: LTE, 5: NR
+/// @param reserve  not sent
+/// \command
+/// \sent{as for another rat}
 RADIO_API int radioPerformRetHighRat(int rat, int reserve, void* userData, RadioRequestCallback callback);
 
 /// Sets what the modem does when redirections from LTE to NR keep failing.
 ///
-/// @param value     as the modem defines it
-/// @param value2    not sent
-/// @param value3    not sent
-/// @param value4    not sent
-/// @param value5    not sent
-/// @param value6    not sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param value   as the modem defines it
+/// @param value2  not sent
+/// @param value3  not sent
+/// @param value4  not sent
+/// @param value5  not sent
+/// @param value6  not sent
+/// \command
+/// \sent
 RADIO_API int radioSetRedirectOptSetting(int value, int value2, int value3, int value4, int value5,
                                          int value6, void* userData, RadioRequestCallback callback);
 
 /// Sets whether the attach of the SIM card without data service comes last.
 ///
-/// @param value     as the modem defines it
-/// @param value2    not sent
-/// @param value3    not sent
-/// @param value4    not sent
-/// @param value5    not sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param value   as the modem defines it
+/// @param value2  not sent
+/// @param value3  not sent
+/// @param value4  not sent
+/// @param value5  not sent
+/// \command
+/// \sent
 RADIO_API int radioSetAttachPriority(int value, int value2, int value3, int value4, int value5,
                                      void* userData, RadioRequestCallback callback);
 

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Cells}
+///
 /// What the radio link looks like: serving cell, neighbours, RRC state (3GPP TS 36.331, TS 38.331).
 #pragma once
 
@@ -73,33 +75,27 @@ extern "C" {
 /// Summary of the LTE cell. A failure of the modem is not told: the record is what its answer carried all the same,
 /// and zero where that is nothing.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.lteCellInfo`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{lteCellInfo}
+/// \sent
 RADIO_API int radioGetLteCellInfo(void* userData, RadioRequestCallback callback);
 
 /// State of the radio resource control. A failure of the modem is not told: the status is then 1 unless its answer
 /// carried another one.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.rrcStatus`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{rrcStatus}
+/// \sent
 RADIO_API int radioGetRRCStatus(void* userData, RadioRequestCallback callback);
 
 /// The serving cell.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.servingCellInfo`, whose
-///                  `failure` tells of the modem's failure
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{servingCellInfo}
+/// \sent
 RADIO_API int radioGetServingCellularCellInfo(void* userData, RadioRequestCallback callback);
 
 /// The serving cell and its neighbours.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.allCellInfo`, whose
-///                  `serving.failure` tells of the modem's failure
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{allCellInfo}
+/// \sent
 RADIO_API int radioGetAllCellularCellInfo(void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Device state}
+///
 /// What the device tells the modem about itself.
 #pragma once
 
@@ -29,114 +31,98 @@ extern "C" {
 /// Tells the modem whether the screen is on.
 ///
 /// @param screenState  as the modem defines it, passed through
-/// @param userData     handed to `callback`
-/// @param callback     called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// \verdict
+/// \sent
 RADIO_API int radioSendScreenState(int screenState, void* userData, RadioRequestCallback callback);
 
 /// Tells the modem how the device is moving.
 ///
 /// @param microMotionState  the motion detector's state, passed through
 /// @param multiplier        its multiplier, passed through
-/// @param userData          handed to `callback`
-/// @param callback          called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                          `rsp.microMotion`, whose `failure` tells of the modem's failure
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{microMotion}
+/// \sent
 RADIO_API int radioSetMicroMotionState(int microMotionState, int multiplier, void* userData,
                                        RadioRequestCallback callback);
 
 /// Tells the modem whether it should keep in step with the application processor.
 ///
-/// @param sync      passed through
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param sync  passed through
+/// \verdict
+/// \sent
 RADIO_API int radioSetSyncWithAp(int sync, void* userData, RadioRequestCallback callback);
 
 /// Switches a modem feature.
 ///
-/// @param feature   which feature, passed through
-/// @param state     its state, passed through
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param feature  which feature, passed through
+/// @param state    its state, passed through
+/// \verdict
+/// \sent
 RADIO_API int radioSetFeatureState(int feature, int state, void* userData, RadioRequestCallback callback);
 
 /// The state of a modem feature.
 ///
-/// @param feature   which feature
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.featureState`
-/// @return 0 when handed to the modem, 1 when refused
+/// @param feature  which feature
+/// \fills{featureState}
+/// \sent
 RADIO_API int radioGetFeatureState(int feature, void* userData, RadioRequestCallback callback);
 
 /// Runs one of the modem's prepared cases.
 ///
-/// @param caseId    which case
-/// @param param1    its parameters, passed through
-/// @param param2    see `param1`
-/// @param param3    see `param1`
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param caseId  which case
+/// @param param1  its parameters, passed through
+/// @param param2  see `param1`
+/// @param param3  see `param1`
+/// \verdict
+/// \sent
 RADIO_API int radioDispatchCase(unsigned int caseId, int param1, int param2, int param3, void* userData,
                                 RadioRequestCallback callback);
 
 /// Sets the values of one kind of diagnosis.
 ///
-/// @param type      which kind
-/// @param values    the values; may be null when `count` is 0
-/// @param count     their number, at most 65535
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem; 11 for null values or too many of them; 1 when refused otherwise
+/// @param type    which kind
+/// @param values  the values; may be null when `count` is 0
+/// @param count   their number, at most 65535
+/// \verdict
+/// \sentor{11 for null values or too many of them}
 RADIO_API int radioSetDiagnoseConfig(unsigned int type, int* values, unsigned int count, void* userData,
                                      RadioRequestCallback callback);
 
 /// Configures the detection of issues of the supply's single-inductor dual-output converter.
 ///
-/// @param values    the values; not null
-/// @param count     their number, at most 20
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem; 11 for null values or too many of them; 1 when refused otherwise
+/// @param values  the values; not null
+/// @param count   their number, at most 20
+/// \verdict
+/// \sentor{11 for null values or too many of them}
 RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* userData,
                                       RadioRequestCallback callback);
 
 /// Tells the modem an extended state of the device.
 ///
 /// @param deviceStateExt  as the modem defines it, passed through
-/// @param userData        handed to `callback`
-/// @param callback        called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                        `rsp.deviceStateExt`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{deviceStateExt}
+/// \sent
 RADIO_API int radioSendDeviceStateExt(int deviceStateExt, void* userData, RadioRequestCallback callback);
 
 /// Sets the IMB state.
 ///
-/// @param state     as the modem defines it; its low 8 bits are sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param state  as the modem defines it; its low 8 bits are sent
+/// \verdict
+/// \sent
 RADIO_API int radioSetImbState(int state, void* userData, RadioRequestCallback callback);
 
 /// Tells the modem how the device's screen is folded.
 ///
-/// @param state     as the modem numbers it
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param state  as the modem numbers it
+/// \command
+/// \sent
 RADIO_API int radioUpdateFoldScreenStatus(int state, void* userData, RadioRequestCallback callback);
 
 /// Sets the software version number of the device's identity (IMEISV, 3GPP TS 23.003).
 ///
-/// @param svn       sent in hexadecimal, with two digits or more: 10 is sent as "0a". An identity has two decimal
-///                  digits there, so that 42 is to be given as 0x42
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param svn  sent in hexadecimal, with two digits or more: 10 is sent as "0a". An identity has two decimal digits
+///             there, so that 42 is to be given as 0x42
+/// \command
+/// \sent
 RADIO_API int radioSetImeiSvn(int svn, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{In-device coexistence}
+///
 /// In-device coexistence (3GPP TS 36.300): the modem next to radios that disturb it.
 #pragma once
 
@@ -22,12 +24,11 @@ extern "C" {
 
 /// Sets the offsets that keep the modem off disturbed frequencies.
 ///
-/// @param rat       radio access technology as the modem numbers it, 4 or 7
-/// @param offset    the common offset; its low 16 bits are sent
-/// @param configs   the table; the first 20 entries are sent, further ones are not
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem; 2 for another rat; 1 when refused otherwise
+/// @param rat      radio access technology as the modem numbers it, 4 or 7
+/// @param offset   the common offset; its low 16 bits are sent
+/// @param configs  the table; the first 20 entries are sent, further ones are not
+/// \verdict
+/// \sentor{2 for another rat}
 RADIO_API int radioSetIdcOffset(int rat, int offset, const std::vector<RadioIdcOffsetConfig>& configs,
                                 void* userData, RadioRequestCallback callback);
 

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{IMS media}
+///
 /// IMS media quality, and handover thresholds.
 #pragma once
 
@@ -40,66 +42,54 @@ extern "C" {
 
 /// Sets when audio quality is reported.
 ///
-/// @param threshold sent as it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param threshold  sent as it is
+/// \verdict
+/// \sent
 RADIO_API int radioSetImsAudioQualityThreshold(const RadioImsAudioQualityThreshold& threshold, void* userData,
                                                RadioRequestCallback callback);
 
 /// Sets when the modem prefers another cell.
 ///
-/// @param threshold sent as it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param threshold  sent as it is
+/// \verdict
+/// \sent
 RADIO_API int radioSetAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThreshold& threshold,
                                                 void* userData, RadioRequestCallback callback);
 
 /// Tells the modem of an RTP session.
 ///
-/// @param info      sent as it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  sent as it is
+/// \verdict
+/// \sent
 RADIO_API int radioSetImsRtpInfo(const RadioImsRtpInfo& info, void* userData, RadioRequestCallback callback);
 
 /// Sets when RTP quality is reported.
 ///
-/// @param info      sent as it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  sent as it is
+/// \verdict
+/// \sent
 RADIO_API int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void* userData,
                                       RadioRequestCallback callback);
 
 /// Whether supplementary services go over IMS (USSI, 3GPP TS 24.390).
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.imsUssd`, zero when the answer is no number; with
-///                  RADIO_APIS_FAILURE and a zeroed record when the modem refused or answered no field; or with
-///                  the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \asksnumber{imsUssd}
+/// \sent
 RADIO_API int radioGetImsUssdEnabled(void* userData, RadioRequestCallback callback);
 
 /// Switches calls over Wi-Fi while roaming between cellular and Wi-Fi. On, it takes two commands, of which the
 /// second one's answer is told.
 ///
-/// @param enable    on or off
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param enable  on or off
+/// \command
+/// \sent
 RADIO_API int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCallback callback);
 
 /// Names the gateway of calls over Wi-Fi (ePDG, 3GPP TS 23.003).
 ///
-/// @param fqdn      its name, at most 224 bytes: with more the command is cut at its end without a word
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused, as for null, or a control character or double
-///         quote in the text
+/// @param fqdn  its name, at most 224 bytes: with more the command is cut at its end without a word
+/// \command
+/// \sent{as for null, or a control character or double quote in the text}
 RADIO_API int radioSetCarrierOmacpFqdn(const char* fqdn, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

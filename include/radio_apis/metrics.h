@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Metrics}
+///
 /// Metrics, and data of the modem's network evaluation.
 #pragma once
 
@@ -29,60 +31,54 @@ extern "C" {
 
 /// Starts the collection of metrics.
 ///
-/// @param type      kind of metrics, passed through
-/// @param ids       which metrics; may be null when `count` is 0
-/// @param count     their number, at most 65535
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem; 11 for null ids or too many of them; 1 when refused otherwise
+/// @param type   kind of metrics, passed through
+/// @param ids    which metrics; may be null when `count` is 0
+/// @param count  their number, at most 65535
+/// \verdict
+/// \sentor{11 for null ids or too many of them}
 RADIO_API int radioStartMetricsCollect(int type, int* ids, unsigned int count, void* userData,
                                        RadioRequestCallback callback);
 
 /// Stops the collection.
 ///
-/// @param type      kind of metrics
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param type  kind of metrics
+/// \verdict
+/// \sent
 RADIO_API int radioStopMetricsCollect(int type, void* userData, RadioRequestCallback callback);
 
 /// What was collected.
 ///
-/// @param type      kind of metrics
-/// @param option    passed through
-/// @param state     passed through
-/// @param ids       which metrics; may be null when `count` is 0
-/// @param count     their number, at most 65535
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.metricsData`
-/// @return 0 when handed to the modem; 11 for null ids or too many of them; 1 when refused otherwise
+/// @param type    kind of metrics
+/// @param option  passed through
+/// @param state   passed through
+/// @param ids     which metrics; may be null when `count` is 0
+/// @param count   their number, at most 65535
+/// \fills{metricsData}
+/// \sentor{11 for null ids or too many of them}
 RADIO_API int radioGetMetricsData(int type, int option, int state, int* ids, unsigned int count,
                                   void* userData, RadioRequestCallback callback);
 
 /// Data of the network evaluation.
 ///
-/// @param type      kind of data, passed through
-/// @param data      what the modem needs for it; may be null when `length` is 0
-/// @param length    number of bytes, at most 65535
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.necData`
-/// @return 0 when handed to the modem; 11 for null data or too much of it; 1 when refused otherwise
+/// @param type    kind of data, passed through
+/// @param data    what the modem needs for it; may be null when `length` is 0
+/// @param length  number of bytes, at most 65535
+/// \fills{necData}
+/// \sentor{11 for null data or too much of it}
 RADIO_API int radioGetNecData(int type, const unsigned char* data, unsigned int length, void* userData,
                               RadioRequestCallback callback);
 
 /// What the modem tells of its protocol state.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.protocolInfo`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{protocolInfo}
+/// \sent
 RADIO_API int radioGetModemProtocolInfo(void* userData, RadioRequestCallback callback);
 
 /// Sets which measurements the modem reports with RADIO_EVENT_VEYRA_CELL_INFO_IND.
 ///
-/// @param policy    see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param policy  see the record
+/// \verdict
+/// \sent
 RADIO_API int radioSetVeyraConfigPolicy(VeyraConfigPolicy policy, void* userData,
                                         RadioRequestCallback callback);
 

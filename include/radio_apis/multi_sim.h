@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Several SIM cards}
+///
 /// Several SIM cards in use at once.
 #pragma once
 
@@ -17,29 +19,25 @@ extern "C" {
 
 /// How the modem serves several SIM cards at the moment.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.msimSubModeState`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{msimSubModeState}
+/// \sent
 RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback callback);
 
 /// Sets from which level on the modem prefers to serve both SIM cards at the same time (DSDA).
 ///
-/// @param rat       radio access technology as the modem numbers it, 4 or 7
-/// @param thresh1   the first threshold; with rat 4 it is sent multiplied by 4. 16 bits are sent
-/// @param thresh2   the second threshold, likewise
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem; 2 for another rat; 1 when refused otherwise
+/// @param rat      radio access technology as the modem numbers it, 4 or 7
+/// @param thresh1  the first threshold; with rat 4 it is sent multiplied by 4. 16 bits are sent
+/// @param thresh2  the second threshold, likewise
+/// \verdict
+/// \sentor{2 for another rat}
 RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData,
                                            RadioRequestCallback callback);
 
 /// Sets how the modem is to serve several SIM cards.
 ///
-/// @param mode      as the modem numbers it
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param mode  as the modem numbers it
+/// \command
+/// \sent
 RADIO_API int radioSetMsimSubModePref(int mode, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Network actions}
+///
 /// Network actions: instructions of the device's network optimisation.
 #pragma once
 
@@ -91,29 +93,25 @@ extern "C" {
 
 /// Sends an action. The modem reports its outcome with RADIO_EVENT_NETWORK_ACTION_RESULT_IND.
 ///
-/// @param action    see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param action  see the record
+/// \verdict
+/// \sent
 RADIO_API int radioSendNetworkAction(const RadioActionConfigType& action, void* userData,
                                      RadioRequestCallback callback);
 
 /// Undoes an action.
 ///
-/// @param id        the action's number
-/// @param option    passed through
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param id      the action's number
+/// @param option  passed through
+/// \verdict
+/// \sent
 RADIO_API int radioRollbackNetworkAction(int id, int option, void* userData, RadioRequestCallback callback);
 
 /// The state of an action.
 ///
-/// @param id        the action's number
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-/// `rsp.networkActionState`
-/// @return 0 when handed to the modem, 1 when refused
+/// @param id  the action's number
+/// \fills{networkActionState}
+/// \sent
 RADIO_API int radioGetNetworkActionState(int id, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{NV items}
+///
 /// Non-volatile items of the modem.
 #pragma once
 
@@ -19,24 +21,20 @@ extern "C" {
 
 /// Reads one item.
 ///
-/// @param id        the item's number
-/// @param index     which of its records
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.nvItemData`, whose
-///                  `failure` tells of the modem's failure
-/// @return 0 when handed to the modem, 1 when refused
+/// @param id     the item's number
+/// @param index  which of its records
+/// \fills{nvItemData}
+/// \sent
 RADIO_API int radioReadNv(int id, signed char index, void* userData, RadioRequestCallback callback);
 
 /// Writes one item.
 ///
-/// @param id        the item's number
-/// @param index     which of its records
-/// @param data      the new contents, copied before this returns; not null
-/// @param dataLen   their number, at most 20480 bytes
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.nvWrite`, whose
-///                  `failure` tells of the modem's failure
-/// @return 0 when handed to the modem; 11 for a null `data` or too many bytes; 1 when refused otherwise
+/// @param id       the item's number
+/// @param index    which of its records
+/// @param data     the new contents, copied before this returns; not null
+/// @param dataLen  their number, at most 20480 bytes
+/// \fills{nvWrite}
+/// \sentor{11 for a null `data` or too many bytes}
 RADIO_API int radioWriteNv(int id, signed char index, const unsigned char* data, unsigned int dataLen,
                            void* userData, RadioRequestCallback callback);
 

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Operation mode}
+///
 /// Operation mode of the modem (3GPP TS 27.007, +CFUN).
 #pragma once
 
@@ -24,28 +26,24 @@ extern "C" {
 /// Switches the radio on or off (+EFUN=3 or +EFUN=0), waits 500 ms and looks whether the modem has done so; once
 /// more after another 500 ms.
 ///
-/// @param mode      see the enumeration
-/// @param userData  handed to `callback`
+/// @param mode  see the enumeration
+/// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem has done so, else with RADIO_APIS_FAILURE; the
 ///                  record is empty
-/// @return 0 once started, also when the modem then can't be reached
+/// \started
 RADIO_API int radioSetOperationMode(RADIO_OPERATION_MODE_TYPE mode, void* userData,
                                     RadioRequestCallback callback);
 
 /// The level of functionality (3GPP TS 27.007, +CFUN).
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.operationMode`, or with RADIO_APIS_FAILURE and a
-///                  zeroed record when the answer carried no mode, or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \asks{operationMode, the answer carried no mode}
+/// \sent
 RADIO_API int radioGetOperationMode(void* userData, RadioRequestCallback callback);
 
 /// Restarts the modem.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \command
+/// \sent
 RADIO_API int radioRequireModemReboot(void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Packet routes}
+///
 /// Which way packets take.
 #pragma once
 
@@ -16,16 +18,14 @@ extern "C" {
 
 /// The route of packets on activated data connections.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.packetRoute`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{packetRoute}
+/// \sent
 RADIO_API int radioGetDataActPacketRoute(void* userData, RadioRequestCallback callback);
 
 /// The route of packets on network interfaces that are up.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.packetRoute`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{packetRoute}
+/// \sent
 RADIO_API int radioGetDataIfupPacketRoute(void* userData, RadioRequestCallback callback);
 
 } // extern "C"

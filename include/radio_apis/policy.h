@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Indications}
+///
 /// Which indications the modem sends, and how many it sent.
 #pragma once
 
@@ -68,33 +70,29 @@ extern "C" {
 /// Sets the policies.
 ///
 /// @param policies  sent as they are
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// \verdict
+/// \sent
 RADIO_API int radioSetModemIndicationPolicy(const RadioPolicyConfigListType& policies, void* userData,
                                             RadioRequestCallback callback);
 
 /// The policies.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.indicationPolicy`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{indicationPolicy}
+/// \sent
 RADIO_API int radioGetModemIndicationPolicy(void* userData, RadioRequestCallback callback);
 
 /// How often the modem sent which indication.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.indicationReports`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{indicationReports}
+/// \sent
 RADIO_API int radioGetIndicationReportRecords(void* userData, RadioRequestCallback callback);
 
 /// Switches indications of one kind.
 ///
-/// @param type      which kind, passed through
-/// @param configs   see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param type     which kind, passed through
+/// @param configs  see the record
+/// \verdict
+/// \sent
 RADIO_API int radioSetIndicationConfig(int type, const RadioIndicationConfigListType& configs, void* userData,
                                        RadioRequestCallback callback);
 

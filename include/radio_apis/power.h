@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Power and memory}
+///
 /// Power saving, and what the modem tells of its own resources.
 #pragma once
 
@@ -68,8 +70,8 @@ extern "C" {
 /// `dl`, `ul`, `delay` and `cnt`, one after the other; 2 two other features from `op` and `dl`; 3 sets `op` for the
 /// receive level adjustment of NR, 4 for the search without a SIM, 5 for the low power control.
 ///
-/// @param info      the switches
-/// @param userData  handed to `callback`
+/// @param info  the switches
+/// \user
 /// @param callback  called once with the modem's verdict and, on success, an empty record. With type 600 called once
 ///                  with RADIO_APIS_SUCCESS when the modem accepted all commands, else with RADIO_APIS_FAILURE at the
 ///                  first that it did not, each with an empty record; for groups 3 to 5 also with the modem's failure
@@ -80,52 +82,47 @@ RADIO_API int radioSetPowerSavingState(const UAIINFO& info, void* userData, Radi
 
 /// Sets when the modem may rest.
 ///
-/// @param info      sent as it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  sent as it is
+/// \verdict
+/// \sent
 RADIO_API int radioSetSmartIdleCfg(const RadioSmartIdleInfoType& info, void* userData,
                                    RadioRequestCallback callback);
 
 /// Switches the power boost. The modem gets the same message as from radioSetSarRegionCode: it can't tell the two
 /// apart.
 ///
-/// @param state     passed through
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param state  passed through
+/// \verdict
+/// \sent
 RADIO_API int radioSetPowerBoostState(int state, void* userData, RadioRequestCallback callback);
 
 /// Has the modem take its power statistics.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.powerStatistics`,
-///                  whose `failure` tells of the modem's failure
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{powerStatistics}
+/// \sent
 RADIO_API int radioGetPowerStatistics(void* userData, RadioRequestCallback callback);
 
 /// Sets a timer of fast dormancy, the early release of an idle connection (3GPP TS 25.331).
 ///
-/// @param index     which timer; -1: not sent
-/// @param timer     its time as the modem counts it; -1: not sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param index  which timer; -1: not sent
+/// @param timer  its time as the modem counts it; -1: not sent
+/// \verdict
+/// \sent
 RADIO_API int radioSetFastDormancyTimer(int index, int timer, void* userData, RadioRequestCallback callback);
 
 /// What the modem's memory is used for.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.modemHeapList`; or with
+/// \user
+/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and \answer{modemHeapList}; or with
 ///                  RADIO_APIS_INVALID_PARAMETER and no record when the modem lists more than 50 heaps
-/// @return 0 when handed to the modem, 1 when refused
+/// \sent
 RADIO_API int radioGetModemHeapList(void* userData, RadioRequestCallback callback);
 
 /// Sets how the modem's voltage converter rests.
 ///
-/// @param state     bits: 0 asleep, 1 the receiver follows the transmitter, 2 the 100k mode, 3 the converter is
-///                  an RQ4120, which needs bit 1 or 2
-/// @param userData  handed to `callback`
+/// @param state  bits: 0 asleep, 1 the receiver follows the transmitter, 2 the 100k mode, 3 the converter is an
+///               RQ4120, which needs bit 1 or 2
+/// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
 ///                  RADIO_APIS_FAILURE; the record is empty. Without bit 3 also with the modem's failure and no
 ///                  record
@@ -135,37 +132,29 @@ RADIO_API int radioUpdateDcdcSleepState(int state, void* userData, RadioRequestC
 
 /// Has the modem ask the network to release its connection (fast dormancy).
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \command
+/// \sent
 RADIO_API int radioSendFastDormancy(void* userData, RadioRequestCallback callback);
 
 /// Sets the modem's conformance of packet services.
 ///
-/// @param value1    as the modem defines it
-/// @param value2    likewise
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param value1  as the modem defines it
+/// @param value2  likewise
+/// \command
+/// \sent
 RADIO_API int radioSetPSConformanceMode(int value1, int value2, void* userData,
                                         RadioRequestCallback callback);
 
 /// The modem's conformance of packet services, which fast dormancy depends on.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues` when the modem accepted the command,
-///                  else with RADIO_APIS_FAILURE and a zeroed record, or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \asks{atValues, the modem refused}
+/// \sent
 RADIO_API int radioQueryFastDormancyMode(void* userData, RadioRequestCallback callback);
 
 /// Whether fast dormancy of releases before 8 is off.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.atValues` when the modem accepted the command,
-///                  else with RADIO_APIS_FAILURE and a zeroed record, or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \asks{atValues, the modem refused}
+/// \sent
 RADIO_API int radioQueryLegacyFastDormancyMode(void* userData, RadioRequestCallback callback);
 
 } // extern "C"

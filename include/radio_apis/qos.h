@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Quality of service}
+///
 /// Quality of service of data connections.
 #pragma once
 
@@ -14,29 +16,26 @@ extern "C" {
 
 /// Sets how often quality of service is reported.
 ///
-/// @param period    as the modem counts it, 32 bits; further ones are not sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param period  as the modem counts it, 32 bits; further ones are not sent
+/// \verdict
+/// \sent
 RADIO_API int radioSetQosReportPeriod(long period, void* userData, RadioRequestCallback callback);
 
 /// Sets what is measured.
 ///
-/// @param type      kind of configuration
-/// @param data      the configuration; may be null when `length` is 0
-/// @param length    number of bytes, at most 65535
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem; 11 for null data or too much of it; 1 when refused otherwise
+/// @param type    kind of configuration
+/// @param data    the configuration; may be null when `length` is 0
+/// @param length  number of bytes, at most 65535
+/// \verdict
+/// \sentor{11 for null data or too much of it}
 RADIO_API int radioSetQosConfig(signed char type, unsigned char* data, unsigned int length, void* userData,
                                 RadioRequestCallback callback);
 
 /// What was measured.
 ///
-/// @param type      kind of data, passed through
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.qosData`
-/// @return 0 when handed to the modem, 1 when refused
+/// @param type  kind of data, passed through
+/// \fills{qosData}
+/// \sent
 RADIO_API int radioGetQosData(int type, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

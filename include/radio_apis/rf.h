@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Radio frequency control}
+///
 /// Radio frequency control.
 #pragma once
 
@@ -29,37 +31,50 @@ extern "C" {
 ///
 /// @param featureId  a feature of the file
 /// @param index      one of its positions
-/// @param userData   handed to `callback`
-/// @param callback   called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
-///                   RADIO_APIS_FAILURE; the record is empty
-/// @return 0 once started, also when the modem then can't be reached; 1 when refused, as when the file lists no
-///         command for this position or one with a control character in it
+/// \user
+/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
+///                  RADIO_APIS_FAILURE; the record is empty
+/// \started{1 when refused, as when the file lists no command for this position or one with a control character in
+///     it}
 RADIO_API int radioSetAsdivFixPosition(int featureId, int index, void* userData,
                                        RadioRequestCallback callback);
 
 /// Enters the modem's RF test tables.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
-///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \command
+/// \sent
 RADIO_API int radioSetAtcTableInit(void* userData, RadioRequestCallback callback);
 
-/// Leaves the modem's RF test tables; otherwise as radioSetAtcTableInit.
+/// Leaves the modem's RF test tables.
+///
+/// \command
+/// \sent
 RADIO_API int radiosetAtcTableDeInit(void* userData, RadioRequestCallback callback);
 
-/// Transmit antenna of test benches. Not supported: logs so and returns 1; the callback is not called.
+/// Transmit antenna of test benches.
+///
+/// \unsupported
 RADIO_API int radioSetTasForceIdxByRat(int rat, int index, int state, int mode, void* userData,
                                        RadioRequestCallback callback);
-/// Highest transmit power of test benches. Not supported: logs so and returns 1; the callback is not called.
+/// Highest transmit power of test benches.
+///
+/// \unsupported
 RADIO_API int radioSetMaxTxPower(int rat, int band, int power, void* userData, RadioRequestCallback callback);
-/// Transmitter settings of test benches. Not supported: logs so and returns 1; the callback is not called.
+/// Transmitter settings of test benches.
+///
+/// \unsupported
 RADIO_API int radioSetRfTxInfo(const RFTXINFO& info, void* userData, RadioRequestCallback callback);
-/// Transmitter readings of test benches. Not supported: logs so and returns 1; the callback is not called.
+/// Transmitter readings of test benches.
+///
+/// \unsupported
 RADIO_API int radioGetTxAdc(const TXADCINFO& info, void* userData, RadioRequestCallback callback);
-/// Transmit power of test benches. Not supported: logs so and returns 1; the callback is not called.
+/// Transmit power of test benches.
+///
+/// \unsupported
 RADIO_API int radioSetRfTxPower(const RFTXINFO& info, void* userData, RadioRequestCallback callback);
-/// Several transmitter settings of test benches. Not supported: logs so and returns 1; the callback is not called.
+/// Several transmitter settings of test benches.
+///
+/// \unsupported
 RADIO_API int radioSetComboRfTxInfo(const std::vector<RFTXINFO>& infos, void* userData,
                                     RadioRequestCallback callback);
 

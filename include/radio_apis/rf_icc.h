@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Coexistence with other radios}
+///
 /// Coexistence of the modem with the device's other radios.
 #pragma once
 
@@ -44,37 +46,33 @@ extern "C" {
 
 /// The state of the coexistence.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.rfIccInfo`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{rfIccInfo}
+/// \sent
 RADIO_API int radioGetRfIccInfo(void* userData, RadioRequestCallback callback);
 
 /// Tells the modem indicators.
 ///
-/// @param kpi       sent as it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param kpi  sent as it is
+/// \verdict
+/// \sent
 RADIO_API int radioSendRfIccClatKpi(const RfIccClatKpi& kpi, void* userData, RadioRequestCallback callback);
 
 /// Tells the modem modes of the other radios.
 ///
-/// @param mode1     passed through, as the others
-/// @param mode2     see `mode1`
-/// @param mode3     see `mode1`
-/// @param mode4     see `mode1`
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param mode1  passed through, as the others
+/// @param mode2  see `mode1`
+/// @param mode3  see `mode1`
+/// @param mode4  see `mode1`
+/// \verdict
+/// \sent
 RADIO_API int radioSendRfIccModeState(unsigned char mode1, unsigned char mode2, unsigned char mode3,
                                       unsigned char mode4, void* userData, RadioRequestCallback callback);
 
 /// Tells the modem an error of another radio.
 ///
-/// @param error     sent as it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param error  sent as it is
+/// \verdict
+/// \sent
 RADIO_API int radioSendRfIccDeviceErr(const RfIccDeviceErr& error, void* userData,
                                       RadioRequestCallback callback);
 

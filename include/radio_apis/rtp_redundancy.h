@@ -1,4 +1,6 @@
 /// @file
+/// \domain{RTP redundancy}
+///
 /// Redundant transport of an IMS call's media (RTP, RFC 3550) over a second path: its keys, its control and
 /// its addresses.
 #pragma once
@@ -86,49 +88,39 @@ extern "C" {
 
 /// Whether the modem can do it.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunCapability`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{imsRtpRedunCapability}
+/// \sent
 RADIO_API int radioGetImsRtpRedunCapability(void* userData, RadioRequestCallback callback);
 
 /// The modem's own public key for a call.
 ///
-/// @param info      the call and the kind of key
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunPublicKey`
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  the call and the kind of key
+/// \fills{imsRtpRedunPublicKey}
+/// \sent
 RADIO_API int radioGetImsRtpRedunPublicKey(const RadioImsRtpRedunKeyInfoType& info, void* userData,
                                            RadioRequestCallback callback);
 
 /// Tells the modem the other side's public key.
 ///
-/// @param info      the call and the key
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunRemotePublicKey`
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  the call and the key
+/// \fills{imsRtpRedunRemotePublicKey}
+/// \sent
 RADIO_API int radioSetImsRtpRedunRemotePublicKey(const RadioImsRtpRedunPublicKeyInfoType& info,
                                                  void* userData, RadioRequestCallback callback);
 
 /// Controls a call's redundancy.
 ///
-/// @param info      the call and what is to become of it
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunControl`
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  the call and what is to become of it
+/// \fills{imsRtpRedunControl}
+/// \sent
 RADIO_API int radioSetImsRtpRedunControlInfo(const RadioImsRtpRedunControlInfoType& info, void* userData,
                                              RadioRequestCallback callback);
 
 /// Brings the caller's view of the data path in step with the modem's.
 ///
-/// @param info      which data path
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.imsRtpRedunDataPath`
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  which data path
+/// \fills{imsRtpRedunDataPath}
+/// \sent
 RADIO_API int radioSyncImsRtpRedunDataPathConfig(const RadioImsRtpRedunDataPathConfigType& info,
                                                  void* userData, RadioRequestCallback callback);
 

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Scenes and experience}
+///
 /// What the device is used for, and how the modem adapts to it.
 #pragma once
 
@@ -68,65 +70,58 @@ extern "C" {
 
 /// Switches the uplink enhancement.
 ///
-/// @param mode      passed through
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param mode  passed through
+/// \verdict
+/// \sent
 RADIO_API int radioSetHyperUplinkMode(int mode, void* userData, RadioRequestCallback callback);
 
 /// Sets the parameters of the uplink enhancement.
 ///
-/// @param paras     see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param paras  see the record
+/// \verdict
+/// \sent
 RADIO_API int radioSetHyperUplinkParas(const RadioHyperUplinkParasType& paras, void* userData,
                                        RadioRequestCallback callback);
 
 /// Sets the mode of a scene.
 ///
-/// @param scene     which scene
-/// @param mode      its mode, passed through
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param scene  which scene
+/// @param mode   its mode, passed through
+/// \verdict
+/// \sent
 RADIO_API int radioSetSceneMode(int scene, int mode, void* userData, RadioRequestCallback callback);
 
 /// The modes of scenes.
 ///
-/// @param scenes    which scenes; may be null when `count` is 0
-/// @param count     their number; of more than 64 the first 64 are asked for
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.sceneModes`
-/// @return 0 when handed to the modem; 11 for null scenes; 1 when refused otherwise
+/// @param scenes  which scenes; may be null when `count` is 0
+/// @param count   their number; of more than 64 the first 64 are asked for
+/// \fills{sceneModes}
+/// \sentor{11 for null scenes}
 RADIO_API int radioGetSceneMode(int* scenes, unsigned int count, void* userData,
                                 RadioRequestCallback callback);
 
 /// Tells the modem how good the user's experience is.
 ///
-/// @param type      what is rated
-/// @param score     how good it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param type   what is rated
+/// @param score  how good it is
+/// \verdict
+/// \sent
 RADIO_API int radioSetQoeScore(int type, int score, void* userData, RadioRequestCallback callback);
 
 /// Tells the modem scores of its own services.
 ///
-/// @param scores    see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param scores  see the record
+/// \verdict
+/// \sent
 RADIO_API int radioSendScoreInfo(const RadioScoreInfoListType& scores, void* userData,
                                  RadioRequestCallback callback);
 
 /// Tells the modem the cells of a site.
 ///
-/// @param action    not sent
-/// @param info      sent as it is
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param action  not sent
+/// @param info    sent as it is
+/// \verdict
+/// \sent
 RADIO_API int radioSetSiteCellInfo(int action, const RadioSiteCellInfoType& info, void* userData,
                                    RadioRequestCallback callback);
 

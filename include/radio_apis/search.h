@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Search}
+///
 /// How the modem searches for networks, and which it leaves alone (3GPP TS 23.122).
 #pragma once
 
@@ -50,19 +52,17 @@ extern "C" {
 
 /// Sets how often the modem searches for the home PLMN.
 ///
-/// @param info      see the record
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  see the record
+/// \verdict
+/// \sent
 RADIO_API int radioHplmnBgSearch(const RadioHplmnBgSearchInfoType& info, void* userData,
                                  RadioRequestCallback callback);
 
 /// Lets the modem use a PLMN again that it avoids.
 ///
-/// @param info      the PLMN and the kind of its block. Of its text, MCC and MNC, at most six characters are sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param info  the PLMN and the kind of its block. Of its text, MCC and MNC, at most six characters are sent
+/// \verdict
+/// \sent
 RADIO_API int radioPerformPlmnUnblock(RadioPlmnBlockInfo info, void* userData, RadioRequestCallback callback);
 
 /// Takes a tracking area from the list of forbidden ones (3GPP TS 24.301, TS 24.501).
@@ -73,9 +73,8 @@ RADIO_API int radioPerformPlmnUnblock(RadioPlmnBlockInfo info, void* userData, R
 /// @param mncThreeDigits  whether the MNC has three digits, otherwise two
 /// @param code            the tracking area code; its low 16 bits are sent
 /// @param type            kind of list as the modem defines it; its low 8 bits are sent
-/// @param userData        handed to `callback`
-/// @param callback        called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// \verdict
+/// \sent
 RADIO_API int radioClearForbiddenTai(int option, int mcc, int mnc, bool mncThreeDigits, int code, int type,
                                      void* userData, RadioRequestCallback callback);
 
@@ -84,22 +83,20 @@ RADIO_API int radioClearForbiddenTai(int option, int mcc, int mnc, bool mncThree
 /// @param threshold    failures until then; the low 8 bits are sent
 /// @param watchPeriod  in which they are counted, as the modem counts time; the low 16 bits are sent
 /// @param barringTime  how long the cell is barred, as the modem counts time
-/// @param userData     handed to `callback`
-/// @param callback     called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.cellBarring`,
-///                     whose `failure` tells of the modem's failure
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{cellBarring}
+/// \sent
 RADIO_API int radioConfigCellBarringParam(unsigned int threshold, unsigned int watchPeriod,
                                           unsigned int barringTime, void* userData,
                                           RadioRequestCallback callback);
 
 /// Sets what the modem does while it is out of service.
 ///
-/// @param info      see the record
-/// @param userData  handed to `callback`
+/// @param info  see the record
+/// \user
 /// @param callback  for options 1 to 5 called once with RADIO_APIS_SUCCESS when the modem accepted the command, else
 ///                  with RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record.
 ///                  For option 100 called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused, as for another option
+/// \sent{as for another option}
 RADIO_API int radioSetOosCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{Service mode}
+///
 /// Service domain and usage of the device (3GPP TS 27.007, +CEMODE; TS 24.301).
 #pragma once
 
@@ -20,40 +22,31 @@ extern "C" {
 
 /// The UE mode of operation.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.serviceModeInfo`, or with RADIO_APIS_FAILURE
-///                  and a zeroed record when the answer carried no mode, or with the modem's failure and no
-///                  record
-/// @return 0 when handed to the modem, 1 when refused
+/// \asks{serviceModeInfo, the answer carried no mode}
+/// \sent
 RADIO_API int radioGetServiceMode(void* userData, RadioRequestCallback callback);
 
 /// Sets the UE mode of operation. The modem's radio is switched off for that (+CFUN=0) and, when the modem took the
 /// mode, on again (+CFUN=1). After a failure the radio may be off: radioSetOperationMode with
 /// RADIO_OPERATION_MODE_ONLINE switches it on, radioGetOperationMode tells how it is.
 ///
-/// @param mode      as in RadioServiceMode
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
-///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
-/// @return 0 once started, also when the modem then can't be reached
+/// @param mode  as in RadioServiceMode
+/// \commands
+/// \started
 RADIO_API int radioSetServiceMode(int mode, void* userData, RadioRequestCallback callback);
 
 /// Sets what the usage is centred on (3GPP TS 27.007, +CEUS). The radio is switched off and on as by
 /// radioSetServiceMode, and may be off after a failure.
 ///
-/// @param mode      as in RadioCentricMode
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
-///                  RADIO_APIS_FAILURE at the first that it did not; the record is empty
-/// @return 0 once started, also when the modem then can't be reached
+/// @param mode  as in RadioCentricMode
+/// \commands
+/// \started
 RADIO_API int radioSetCentricMode(int mode, void* userData, RadioRequestCallback callback);
 
 /// What the usage is centred on.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.centricModeInfo`, or with RADIO_APIS_FAILURE and a
-///                  zeroed record when the answer carried no mode, or with the modem's failure and no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \asks{centricModeInfo, the answer carried no mode}
+/// \sent
 RADIO_API int radioGetCentricMode(void* userData, RadioRequestCallback callback);
 
 } // extern "C"

@@ -1,4 +1,6 @@
 /// @file
+/// \domain{SIM trays, cards and locks}
+///
 /// SIM trays, SIM cards and SIM locks.
 #pragma once
 
@@ -47,20 +49,18 @@ extern "C" {
 
 /// Whether the SIM trays are in.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and `rsp.simTrayStatus`
-/// @return 0 when handed to the modem, 1 when refused
+/// \fills{simTrayStatus}
+/// \sent
 RADIO_API int radioGetSimTrayStatus(void* userData, RadioRequestCallback callback);
 
 /// Installs a carrier lock.
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data      the bytes; not null
-/// @param length    their number, 1 to 2048
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
-/// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
+/// @param data    the bytes; not null
+/// @param length  their number, 1 to 2048
+/// \verdictwith{simLockData}
+/// \sentor{11 for null data or another length}
 RADIO_API int radioSetCarrierLockBlob(const unsigned char* data, unsigned int length, void* userData,
                                       RadioRequestCallback callback);
 
@@ -68,11 +68,10 @@ RADIO_API int radioSetCarrierLockBlob(const unsigned char* data, unsigned int le
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data      the bytes; not null
-/// @param length    their number, 1 to 512
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
-/// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
+/// @param data    the bytes; not null
+/// @param length  their number, 1 to 512
+/// \verdictwith{simLockData}
+/// \sentor{11 for null data or another length}
 RADIO_API int radioSetCarrierLockStatus(const unsigned char* data, unsigned int length, void* userData,
                                         RadioRequestCallback callback);
 
@@ -80,11 +79,10 @@ RADIO_API int radioSetCarrierLockStatus(const unsigned char* data, unsigned int 
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data      the bytes; not null
-/// @param length    their number, 1 to 512
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
-/// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
+/// @param data    the bytes; not null
+/// @param length  their number, 1 to 512
+/// \verdictwith{simLockData}
+/// \sentor{11 for null data or another length}
 RADIO_API int radioGetCarrierLockStatus(const unsigned char* data, unsigned int length, void* userData,
                                         RadioRequestCallback callback);
 
@@ -92,11 +90,10 @@ RADIO_API int radioGetCarrierLockStatus(const unsigned char* data, unsigned int 
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data      the bytes; not null
-/// @param length    their number, 1 to 1024
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
-/// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
+/// @param data    the bytes; not null
+/// @param length  their number, 1 to 1024
+/// \verdictwith{simLockData}
+/// \sentor{11 for null data or another length}
 RADIO_API int radioSetRegionLockBlob(const unsigned char* data, unsigned int length, void* userData,
                                      RadioRequestCallback callback);
 
@@ -104,11 +101,10 @@ RADIO_API int radioSetRegionLockBlob(const unsigned char* data, unsigned int len
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data      the bytes; not null
-/// @param length    their number, 1 to 512
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
-/// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
+/// @param data    the bytes; not null
+/// @param length  their number, 1 to 512
+/// \verdictwith{simLockData}
+/// \sentor{11 for null data or another length}
 RADIO_API int radioSetRegionLockStatus(const unsigned char* data, unsigned int length, void* userData,
                                        RadioRequestCallback callback);
 
@@ -116,58 +112,49 @@ RADIO_API int radioSetRegionLockStatus(const unsigned char* data, unsigned int l
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data      the bytes; not null
-/// @param length    their number, 1 to 512
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, `rsp.simLockData`
-/// @return 0 when handed to the modem; 11 for null data or another length; 1 when refused otherwise
+/// @param data    the bytes; not null
+/// @param length  their number, 1 to 512
+/// \verdictwith{simLockData}
+/// \sentor{11 for null data or another length}
 RADIO_API int radioGetRegionLockStatus(const unsigned char* data, unsigned int length, void* userData,
                                        RadioRequestCallback callback);
 
 /// Has the SIM card answer a challenge of the network.
 ///
-/// @param info      the challenge
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS, whatever the modem said, and
-///                  `rsp.uimAuthentication`
-/// @return 0 when handed to the modem; 11 for more than 256 bytes; 1 when refused otherwise
+/// @param info  the challenge
+/// \fills{uimAuthentication}
+/// \sentor{11 for more than 256 bytes}
 RADIO_API int radioRequestIccSimAuthentication(const RadioUimAuthenticateReqInfo& info, void* userData,
                                                RadioRequestCallback callback);
 
 /// Powers the SIM card up.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// \verdict
+/// \sent
 RADIO_API int radioSetUimPowerUp(void* userData, RadioRequestCallback callback);
 
 /// Powers the SIM card down: until it is powered up again the modem works as without one.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with the modem's verdict and, on success, an empty record
-/// @return 0 when handed to the modem, 1 when refused
+/// \verdict
+/// \sent
 RADIO_API int radioSetUimPowerDown(void* userData, RadioRequestCallback callback);
 
 /// What kind of SIM card it is.
 ///
-/// @param option    not sent
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.simCardType`, with RADIO_APIS_FAILURE and a
-///                  zeroed record when the answer is no IMSI, as without a card, or with the modem's failure and no
-///                  record
-/// @return 0 when handed to the modem, 1 when refused
+/// @param option  not sent
+/// \asks{simCardType, the answer is no IMSI\, as without a card}
+/// \sent
 RADIO_API int radioGetSimCardType(int option, void* userData, RadioRequestCallback callback);
 
 /// The categories of the SIM lock.
 ///
-/// @param userData  handed to `callback`
-/// @param callback  called once with RADIO_APIS_SUCCESS and `rsp.simlockCategory`, with RADIO_APIS_FAILURE and
-///                  a zeroed record when the modem refused or answered nothing, or with the modem's failure and
-///                  no record
-/// @return 0 when handed to the modem, 1 when refused
+/// \asks{simlockCategory, the modem refused or answered nothing}
+/// \sent
 RADIO_API int radioGetSimlockCategoryData(void* userData, RadioRequestCallback callback);
 
-/// Not supported: logs so and returns 1; the callback is not called.
+/// Not supported.
+///
+/// \unsupported
 RADIO_API int radioGetSimlockLockStatus(void* userData, RadioRequestCallback callback);
 
 } // extern "C"
