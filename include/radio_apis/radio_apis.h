@@ -34,6 +34,7 @@
 #include "radio_apis/policy.h"
 #include "radio_apis/power.h"
 #include "radio_apis/qos.h"
+#include "radio_apis/rat.h"
 #include "radio_apis/result.h"
 #include "radio_apis/results.h"
 #include "radio_apis/rf.h"
