@@ -37,8 +37,8 @@ AtResponseCallback::Function severalValues(int least);
 
 using Pieces = std::vector<std::string_view>;
 
-/// What is between the commas of an accepted answer's raw text, without the blanks and quotes around it. Throws when the
-/// answer has no data.
+/// What is between the commas of an accepted answer's raw text, without the blanks and quotes around it. Throws when
+/// there is none.
 Pieces nextPieces(mindroid::Parcel& answer);
 
 /// The whole text as a number; nothing when it is none, or one that does not fit.

@@ -26,8 +26,8 @@ private:
 void processRadioException(const mindroid::sp<RadioApiCallback>& cb, void* userData,
                            const mindroid::sp<mindroid::Exception>& e);
 
-/// The same for what a step threw. With the name of a method it is logged by that first, and its message is kept; without
-/// one everything but a RadioException is a failure like any other. Without the memory to tell of it, the code is
+/// The same for what a step threw. With the name of a method it is logged by that first, and keeps its message; without
+/// one all but a RadioException are a failure like any other. Without the memory to tell of it, the code is
 /// RADIO_APIS_FAILURE and there is no record.
 void endWithException(const mindroid::sp<RadioApiCallback>& cb, void* userData, const char* method,
                       const std::exception& exception);
@@ -50,8 +50,8 @@ class AtChainPromise : public mindroid::Object {
 public:
     static constexpr int kNoDelay = -1;
 
-    /// @param method  the name of the request that logs what makes the chain fail; such a chain ends with a zeroed
-    ///                record, also when it succeeds
+    /// @param method  the request's name, when what makes the chain fail is logged by it; such a chain ends with a
+    ///                zeroed record, also when it succeeds
     explicit AtChainPromise(const char* method = nullptr) : mMethod(method) {}
 
     /// Adds a command, without line end. Only the last command's interpreter is given a record.
