@@ -8,7 +8,6 @@
 
 using at::kTag;
 using mindroid::Parcel;
-using mindroid::sp;
 
 namespace {
 
@@ -16,48 +15,45 @@ constexpr int kQrxlvminLte = 13; ///< other numbers than elsewhere
 constexpr int kQrxlvminNr = 20;
 
 /// Reads the last `wanted` of exactly `parts` pieces, which must be numbers.
-bool readLevels(const sp<Parcel>& answer, size_t parts, size_t wanted, const char* error, int32_t* values)
+bool readLevels(Parcel& answer, size_t parts, size_t wanted, const char* error, int32_t* values)
 {
-    const auto pieces = at::acceptedPieces(answer);
-    if (!pieces) {
-        return false;
-    }
-    if (pieces->size() != parts) {
+    const at::Pieces pieces = at::nextPieces(answer);
+    if (pieces.size() != parts) {
         zorLogE(kTag, "%s", error);
         return false;
     }
-    return std::all_of(pieces->end() - static_cast<ptrdiff_t>(wanted), pieces->end(),
+    return std::all_of(pieces.end() - static_cast<ptrdiff_t>(wanted), pieces.end(),
                        [&](std::string_view piece) {
-                           const auto value = at::toInteger(piece);
+                           const auto value = at::toNumber<int32_t>(piece);
                            *values++ = value.value_or(0);
                            return value.has_value();
                        });
 }
 
-RADIO_APIS_RESULT onLteLevels(const sp<Parcel>& answer, RadioApisResultType* result)
+bool onLteLevels(Parcel& answer, RadioApisResultType& record)
 {
     int32_t q[3] = {};
     if (!readLevels(answer, 5, 3, "invalid param lte, split error!", q)) {
-        return RADIO_APIS_FAILURE;
+        return false;
     }
     zorLogD(kTag, "%s: lte qrxlvminRsp rat:%d, is: %d,%d,%d", "getQrxlvminCfg", kQrxlvminLte, q[0], q[1],
             q[2]);
-    result->rsp.qrxlvmin.rat = kQrxlvminLte;
-    std::ranges::copy(q, result->rsp.qrxlvmin.values);
-    return RADIO_APIS_SUCCESS;
+    record.rsp.qrxlvmin.rat = kQrxlvminLte;
+    std::ranges::copy(q, record.rsp.qrxlvmin.values);
+    return true;
 }
 
-RADIO_APIS_RESULT onNrLevels(const sp<Parcel>& answer, RadioApisResultType* result)
+bool onNrLevels(Parcel& answer, RadioApisResultType& record)
 {
     int32_t q[6] = {};
     if (!readLevels(answer, 7, 6, "invalid param nr, split error!", q)) {
-        return RADIO_APIS_FAILURE;
+        return false;
     }
     zorLogD(kTag, "%s : qrxlvminRsp nr rat:%d, is: %d,%d,%d,%d,%d,%d", "getQrxlvminCfg", kQrxlvminNr, q[0],
             q[1], q[2], q[3], q[4], q[5]);
-    result->rsp.qrxlvmin.rat = kQrxlvminNr;
-    std::ranges::copy(q, result->rsp.qrxlvmin.values);
-    return RADIO_APIS_SUCCESS;
+    record.rsp.qrxlvmin.rat = kQrxlvminNr;
+    std::ranges::copy(q, record.rsp.qrxlvmin.values);
+    return true;
 }
 
 } // namespace
@@ -100,10 +96,10 @@ int VornAtClient::getQrxlvminCfg(int rat, void* userData, RadioRequestCallback c
     switch (rat) {
     case kQrxlvminLte:
         return sendAtCommandRspRawStr("AT+EGMC=0,\"customize_q_rxlv_min\"", userData, cb,
-                                      mindroid::make<AtResponseCallback>(onLteLevels));
+                                      mindroid::make<AtResponseCallback>(at::ifAccepted(onLteLevels)));
     case kQrxlvminNr:
         return sendAtCommandRspRawStr("AT+EGMC=0,\"EGMC_NRRC_CAMP_ON_CRITERIA\"", userData, cb,
-                                      mindroid::make<AtResponseCallback>(onNrLevels));
+                                      mindroid::make<AtResponseCallback>(at::ifAccepted(onNrLevels)));
     default:
         zorLogE(kTag, "%s: unknown rat, rat:%d", __func__, rat);
         return RADIO_APIS_FAILURE;

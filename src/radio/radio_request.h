@@ -56,10 +56,3 @@ inline constexpr uint16_t SetRatThresholds = 4437; ///< of DSDA or of IDC, by th
 inline constexpr uint16_t SetOosSnifferCfg = 4469;
 
 } // namespace RadioMessage
-
-template <typename Fill>
-int VornRadioClient::query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb,
-                           Fill fill)
-{
-    return sendQuery(radio::kTag, request, userData, cb, fill);
-}

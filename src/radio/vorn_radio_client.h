@@ -74,9 +74,6 @@ public:
     int getDataIfupPacketRoute(void* userData, RadioRequestCallback cb);
 
 private:
-    template <typename Fill>
-    int query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb, Fill fill);
-
     int setUimPower(const char* method, uint8_t on, void* userData, RadioRequestCallback cb);
 
     std::array<uint8_t, 6> mIndicationStates{}; ///< the first two: what the switches were last set to

@@ -148,9 +148,6 @@ private:
     int sendLockData(const LockRequest& lock, const unsigned char* data, unsigned int length, void* userData,
                      RadioRequestCallback cb);
 
-    template <typename Fill>
-    int query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb, Fill fill);
-
     std::array<uint8_t, 14> mLastInd{}; ///< of kOptionalIndications: what was last asked for
     uint8_t mAlwaysOnRegistered = 0;
 };
