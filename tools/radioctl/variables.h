@@ -1,7 +1,7 @@
 /// What earlier answers of a batch told, for later lines.
 #pragma once
 
-#include "radioctl/request.h"
+#include "radioctl/options.h"
 
 #include <map>
 #include <string>
