@@ -112,18 +112,20 @@ Json membersFromWords(const std::string& where, std::span<const std::string> wor
     return members;
 }
 
-Arguments::Arguments(const Request& request, std::span<const std::string> words)
+Arguments Arguments::fromWords(const Request& request, std::span<const std::string> words)
 {
+    Arguments arguments;
     for (const Argument& argument : request.arguments) {
         const bool isLast = &argument == &request.arguments.back();
-        mValues.push_back(valueOf(argument, takeValue(argument, isLast, words), Files::AreRead));
+        arguments.mValues.push_back(valueOf(argument, takeValue(argument, isLast, words), Files::AreRead));
     }
     if (!words.empty()) {
         throw ArgumentError(fmt::format("'{}' is one argument too many", words.front()));
     }
+    return arguments;
 }
 
-Arguments::Arguments(const Request& request, const Json& members)
+Arguments Arguments::fromJson(const Request& request, const Json& members)
 {
     std::vector<std::string_view> names;
     for (const Argument& argument : request.arguments) {
@@ -138,13 +140,15 @@ Arguments::Arguments(const Request& request, const Json& members)
                 fmt::format("{} has no argument '{}'{}", request.name, key, suggestion(key, names)));
         }
     }
+    Arguments arguments;
     for (const Argument& argument : request.arguments) {
         const auto value = members.find(argument.meaning.name);
         if (value == members.end()) {
             throw ArgumentError(fmt::format("{} is missing ({})", argument.meaning.name, formOf(argument)));
         }
-        mValues.push_back(valueOf(argument, *value, Files::AreTexts));
+        arguments.mValues.push_back(valueOf(argument, *value, Files::AreTexts));
     }
+    return arguments;
 }
 
 Arguments::Value Arguments::valueOf(const Argument& argument, const Json& in, Files files)
@@ -152,7 +156,8 @@ Arguments::Value Arguments::valueOf(const Argument& argument, const Json& in, Fi
     const std::string where(argument.meaning.name);
     Value value;
     const auto takeRecord = [&](const std::string& place, const Json& record, size_t index) {
-        fromJson(place, *argument.record, record, value.bytes.data() + index * argument.record->size, files);
+        interface::fromJson(place, *argument.record, record,
+                            value.bytes.data() + index * argument.record->size, files);
     };
     switch (argument.form) {
     case Form::Number:

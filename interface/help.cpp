@@ -1,6 +1,7 @@
 // The help of a request, from its description.
 #include "interface/names.h"
 #include "interface/text.h"
+#include "number.h"
 
 #include <fmt/format.h>
 
@@ -55,16 +56,58 @@ std::string numberExample(const Meaning& meaning, Type type)
                                            : std::clamp<int64_t>(1, least, most));
 }
 
-/// The first members that are plain numbers.
+std::string bytesExample(size_t count)
+{
+    std::string text;
+    for (size_t i = 0; i < std::max<size_t>(count, 1); ++i) {
+        text += fmt::format("{:02x}", i);
+    }
+    return text;
+}
+
+Json recordExample(const Record& record);
+
+Json memberExample(const Member& member)
+{
+    const auto least = static_cast<size_t>(member.meaning.range ? member.meaning.range->least : 1);
+    const bool isList = member.lengths[0] != 0;
+    if (isList && member.lengths[1] == 0 && member.type == Type::Char) {
+        return "text";
+    }
+    if (isList && member.lengths[1] == 0 && member.type == Type::Uint8) {
+        return bytesExample(least);
+    }
+    const Json one = member.type == Type::Record ? recordExample(*member.record)
+                     : member.type == Type::Char
+                         ? Json("text")
+                         : Json(numberExample(elementOf(member.meaning), member.type));
+    return isList ? Json::array({one}) : one;
+}
+
+/// Two members that are single values, or the first one.
+Json recordExample(const Record& record)
+{
+    constexpr size_t kMost = 2;
+    Json members = Json::object();
+    for (const bool takesAll : {false, true}) {
+        for (const Member& member : record.members) {
+            const bool isSingle = member.record == nullptr && member.lengths[0] == 0 && !member.counts;
+            if (!member.meaning.isUnused && members.size() < (takesAll ? 1 : kMost) &&
+                (isSingle || takesAll)) {
+                members[std::string(member.meaning.name)] = memberExample(member);
+            }
+        }
+    }
+    return members;
+}
+
 std::string membersExample(const Record& record)
 {
     std::vector<std::string> words;
-    for (const Member& member : record.members) {
-        const bool isPlain = member.record == nullptr && member.lengths[0] == 0 && !member.counts;
-        if (isPlain && !member.meaning.isUnused && words.size() < 2) {
-            words.push_back(
-                fmt::format("{}={}", member.meaning.name, numberExample(member.meaning, member.type)));
-        }
+    const Json example = recordExample(record);
+    for (const auto& [name, value] : example.items()) {
+        words.push_back(value.is_string() ? fmt::format("{}={}", name, value.get<std::string>())
+                                          : fmt::format("'{}={}'", name, value.dump()));
     }
     return fmt::format("{}", fmt::join(words, " "));
 }
@@ -73,32 +116,26 @@ std::string argumentExample(const Argument& argument)
 {
     const auto& range = argument.meaning.range;
     const auto least = static_cast<size_t>(std::max<int64_t>(range ? range->least : 1, 1));
-    std::string element;
     switch (argument.form) {
     case Form::Number:
         return numberExample(argument.meaning, argument.type);
     case Form::Text:
         return std::string(argument.meaning.name);
     case Form::Record:
-    case Form::Records:
         return membersExample(*argument.record);
+    case Form::Records:
+        return fmt::format("'{}'", Json::array({recordExample(*argument.record)}).dump());
     case Form::List:
         break;
     }
     if (argument.type == Type::Uint8) {
-        for (size_t i = 0; i < least; ++i) {
-            element += fmt::format("{:02x}", i);
-        }
-        return element;
+        return bytesExample(least);
     }
-    Meaning meaning = argument.meaning;
-    meaning.range.reset();
-    for (size_t i = 0; i < std::max(least, meaning.values.size()); ++i) {
-        const bool isNamed = i < meaning.values.size();
-        element += (i != 0 ? "," : "") +
-                   (isNamed ? wordOf(meaning.values[i]) : numberExample(meaning, argument.type));
-    }
-    return element;
+    const Meaning element = elementOf(argument.meaning);
+    std::vector<std::string> elements;
+    std::ranges::transform(element.values, std::back_inserter(elements), wordOf);
+    elements.resize(std::max(least, elements.size()), numberExample(element, argument.type));
+    return fmt::format("{}", fmt::join(elements, ","));
 }
 
 } // namespace

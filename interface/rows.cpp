@@ -16,9 +16,9 @@ std::string cell(const Json& value)
         return text;
     }
     for (size_t at = 0; (at = text.find('"', at)) != std::string::npos; at += 2) {
-        text.insert(at, "\"");
+        text.insert(at, 1, '"');
     }
-    return '"' + text + '"';
+    return fmt::format("\"{}\"", text);
 }
 
 } // namespace
@@ -42,17 +42,18 @@ std::string Rows::heading() const
 
 std::string Rows::rows(const std::string& time, const std::string& part, const Json& record) const
 {
-    std::string text = time + ',' + part;
+    std::string text = fmt::format("{},{}", time, part);
     bool isEmpty = true;
     for (const std::string& column : mColumns) {
         const auto value = record.find(column);
         const bool isTold = value != record.end() && !value->is_object();
         isEmpty = isEmpty && !isTold;
-        text += ',' + (isTold ? cell(*value) : "");
+        text += ',';
+        text += isTold ? cell(*value) : "";
     }
     text = isEmpty ? "" : text + '\n';
     for (const auto& [name, value] : record.items()) {
-        const std::string place = part.empty() ? name : part + '.' + name;
+        const std::string place = part.empty() ? name : fmt::format("{}.{}", part, name);
         if (value.is_object()) {
             text += rows(time, place, value);
         }

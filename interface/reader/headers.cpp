@@ -227,7 +227,8 @@ private:
     void forEachDeclaration(CXCursor parent, const std::function<void(CXCursor)>& visit)
     {
         forEachChild(parent, [&](CXCursor cursor) {
-            if (clang_getCursorKind(cursor) == CXCursor_LinkageSpec) {
+            const CXCursorKind kind = clang_getCursorKind(cursor);
+            if (kind == CXCursor_LinkageSpec || kind == CXCursor_UnexposedDecl) { // extern "C"
                 forEachDeclaration(cursor, visit);
             } else if (isOurs(cursor)) {
                 visit(cursor);
@@ -400,7 +401,9 @@ private:
     /// The name that the document has for a record.
     std::string recordName(CXType type) const
     {
-        const auto found = mRecordNames.find(spelled(clang_getCanonicalType(type)));
+        // By the declaration, which is not const.
+        const CXCursor declaration = clang_getTypeDeclaration(clang_getCanonicalType(type));
+        const auto found = mRecordNames.find(spelled(clang_getCanonicalType(clang_getCursorType(declaration))));
         return found != mRecordNames.end() ? found->second : "";
     }
 

@@ -256,7 +256,7 @@ private:
     int repeat(const Step& step)
     {
         const int64_t times =
-            countFrom(splitWords(step.text, &mVariables), "repeat N is wanted, and end behind the lines");
+            countFrom(mVariables.split(step.text), "repeat N is wanted, and end behind the lines");
         int first = kExitSuccess;
         for (int64_t i = 0; i < times && !mIsStopped; ++i) {
             for (const Step& inner : step.repeated) {
@@ -273,7 +273,7 @@ private:
     int runText(const std::string& text)
     {
         return mProgram.guarded("batch", mLine.options, [&] {
-            Words words = splitWords(text, &mVariables);
+            Words words = mVariables.split(text);
             const bool mustFail = !words.empty() && words.front() == "!";
             if (mustFail) {
                 words.erase(words.begin());
@@ -365,40 +365,6 @@ size_t countLines(std::istream& input)
 }
 
 } // namespace
-
-Words splitWords(std::string_view line, const Variables* variables)
-{
-    Words words;
-    char quote = '\0';
-    bool inWord = false;
-    while (!line.empty()) {
-        const char c = line.front();
-        if (quote == '\0' && c == '#' && !inWord) {
-            return words;
-        }
-        const bool isBlank = c == ' ' || c == '\t' || c == '\r';
-        const bool isQuote = c == '"' || c == '\'';
-        const bool separates = quote == '\0' && isBlank;
-        if (!inWord && !separates) {
-            words.emplace_back();
-        }
-        inWord = !separates;
-        if (c == '$' && quote != '\'' && variables != nullptr) {
-            words.back() += variables->take(line);
-            continue;
-        }
-        line.remove_prefix(1);
-        if (quote != '\0' ? c == quote : isQuote) {
-            quote = quote != '\0' ? '\0' : c;
-        } else if (!separates) {
-            words.back() += c;
-        }
-    }
-    if (quote != '\0') {
-        throw UsageError(fmt::format("{} is not closed", quote));
-    }
-    return words;
-}
 
 std::vector<OptionText> batchOptions()
 {

@@ -1,9 +1,9 @@
 // Events as they come.
+#include "interface/words.h"
 #include "radioctl/help.h"
 #include "radioctl/output.h"
 #include "radioctl/program.h"
 #include "radioctl/signals.h"
-#include "radioctl/variables.h"
 
 #include <fmt/format.h>
 
@@ -115,7 +115,7 @@ bool subscribe()
 int runThen(Program& program, const Stream& stream)
 {
     for (const std::string& text : stream.stream.then) {
-        Words words = splitWords(text);
+        Words words = interface::splitWords(text);
         const Options options = takeOptions(words, stream.options);
         if (const int status = program.runChecked({std::move(words), options}); status != kExitSuccess) {
             return status;

@@ -86,11 +86,4 @@ struct SimulationCommand {
 };
 std::span<const SimulationCommand> simulationCommands();
 
-class Variables;
-
-/// The words of a line, as a shell would split it: blanks separate, quotes keep them, # begins a comment. With
-/// `variables`, what stands behind a dollar sign outside single quotes is put in, never split again. Throws UsageError
-/// for a quote without end and for a variable that isn't there.
-Words splitWords(std::string_view line, const Variables* variables = nullptr);
-
 } // namespace radioctl

@@ -148,7 +148,7 @@ Arguments parseArguments(const Request& request, std::span<const std::string> wo
     } else {
         refuseUnknownOptions(words);
     }
-    Arguments arguments(request, words);
+    Arguments arguments = Arguments::fromWords(request, words);
     if (special.check != nullptr) {
         special.check(arguments);
     }

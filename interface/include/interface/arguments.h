@@ -18,10 +18,10 @@ public:
     /// From a command line's words. A number is decimal, hexadecimal behind 0x, or a name; bytes are hexadecimal
     /// digits or @FILE; a list has commas between its numbers, or is -, or JSON; the last argument takes all words that
     /// are left when it is a record: MEMBER=VALUE... or one JSON object. Throws ArgumentError.
-    Arguments(const Request& request, std::span<const std::string> words);
+    static Arguments fromWords(const Request& request, std::span<const std::string> words);
 
     /// From an object with a member for each argument. Throws ArgumentError.
-    Arguments(const Request& request, const Json& members);
+    static Arguments fromJson(const Request& request, const Json& members);
 
     template <typename T>
     T number(size_t place) const
