@@ -10,8 +10,14 @@ namespace interface {
 
 namespace {
 
-/// How many letters are to be put in, taken out, changed or swapped with the next one to make one word of another.
-size_t distance(std::string_view from, std::string_view to)
+/// How many letters are to be put in, taken out, changed or swapped with the next one to make one word of another, and
+/// to make it of the front of that.
+struct Distance {
+    size_t whole;
+    size_t front;
+};
+
+Distance distance(std::string_view from, std::string_view to)
 {
     std::vector<size_t> beforeLast(to.size() + 1);
     std::vector<size_t> last(to.size() + 1);
@@ -29,7 +35,7 @@ size_t distance(std::string_view from, std::string_view to)
         std::swap(beforeLast, last);
         std::swap(last, current);
     }
-    return last[to.size()];
+    return {last[to.size()], *std::ranges::min_element(last)};
 }
 
 } // namespace
@@ -45,14 +51,17 @@ std::string wordOf(const Value& value)
 
 std::string_view nearest(std::string_view word, std::span<const std::string_view> names)
 {
-    std::string_view best;
     // Of a word of which more is wrong than right nobody knows what it should have been.
-    size_t least = word.size() / 3 + 1;
+    const size_t most = word.size() / 3 + 1;
+    constexpr size_t kFront = 1000; // what is meant as a whole goes first
+    std::string_view best;
+    size_t least = kFront + word.size() / 5 + 1;
     for (const std::string_view name : names) {
-        if (const size_t changes = distance(word, name);
-            changes <= least && (best.empty() || changes < least)) {
+        const Distance changes = distance(word, name);
+        const size_t rank = changes.whole <= most ? changes.whole : kFront + changes.front;
+        if (rank < least) {
             best = name;
-            least = changes;
+            least = rank;
         }
     }
     if (!best.empty() || word.size() < 4) {

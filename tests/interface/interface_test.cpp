@@ -205,12 +205,14 @@ TEST(Interface, ExplainsAnswers)
 
 TEST(Interface, GuessesNames)
 {
-    const std::vector<std::string_view> names = {"get-band", "get-bwp-config", "set-ca-status",
-                                                 "get-ca-status"};
+    const std::vector<std::string_view> names = {"get-serving-cellular-cell-info", "get-band",
+                                                 "get-bwp-config", "set-ca-status", "get-ca-status"};
     const std::pair<const char*, const char*> rows[] = {{"get-badn", "get-band"},
                                                         {"set-ca-stats", "set-ca-status"},
                                                         {"bwp-config", "get-bwp-config"},
+                                                        {"get-servng-cell", "get-serving-cellular-cell-info"},
                                                         {"xyz", ""},
+                                                        {"get-bad", "get-band"},
                                                         {"entirely-different", ""}};
     for (const auto& [word, name] : rows) {
         EXPECT_EQ(nearest(word, names), name) << word;

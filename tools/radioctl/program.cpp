@@ -25,6 +25,7 @@ const Command* findCommand(std::string_view name)
 
 [[noreturn]] void refuseName(const std::string& name)
 {
+    refuseUnknownOptions(std::span(&name, 1));
     std::vector<std::string_view> names = interface::namesOf(interface::requests());
     std::ranges::transform(commands(), std::back_inserter(names), &Command::name);
     const std::string suggestion = interface::suggestion(name, names);
