@@ -86,7 +86,7 @@ RADIO_API void vornVsClentNotifyVodataEventIndEvent(void* indication, int, void*
 RADIO_API void vornVsClentNotifyCallStateChangeIndEvent(void* indication, int, void* userData,
                                                         RadioEventCallback callback);
 
-/// RADIO_EVENT_ALL_CELL_INFO_IND: the serving cells and neighbours of all subscriptions.
+/// RADIO_EVENT_ALL_CELL_INFO_IND: the serving cells and neighbours of up to two subscriptions.
 RADIO_API void vornVsClentNotifyAllCellInfoIndEvent(void* indication, int, void* userData,
                                                     RadioEventCallback callback);
 

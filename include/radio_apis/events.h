@@ -68,7 +68,7 @@ enum RADIO_EVENT_TYPE : int32_t {
     RADIO_EVENT_IMS_AUDIO_QUALITY_IND = 439,
     /// state of a call over a data connection \record{RadioStateEvent}
     RADIO_EVENT_VODATA_IND = 440,
-    /// serving cells and neighbours of all subscriptions \record{RadioAllCellInfoEvent}
+    /// serving cells and neighbours of up to two subscriptions \record{RadioAllCellInfoEvent}
     RADIO_EVENT_ALL_CELL_INFO_IND = 441,
     /// change of a call's state \record{RadioStateEvent}
     RADIO_EVENT_CALL_STATE_CHANGE_IND = 442,
