@@ -26,14 +26,12 @@ struct TXADCINFO {
 
 extern "C" {
 
-/// Fixes the antennas of one RF feature to one of its positions: runs the AT commands that the device's RF
-/// feature file lists for them, one after the other.
+/// Fixes the antennas of one RF feature to one of its positions. Runs the AT commands that the device's RF feature
+/// file lists for them, one after the other.
 ///
 /// @param featureId  number of a feature of the RF feature file
 /// @param index      number of one of the feature's positions
-/// \user
-/// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted all commands, else with
-///                  RADIO_APIS_FAILURE; the record is empty
+/// \commands
 /// \started{1 when refused, as when the file lists no command for this position or one with a control character in
 ///     it}
 RADIO_API int radioSetAsdivFixPosition(int featureId, int index, void* userData,

@@ -44,7 +44,7 @@ struct RfIccInfo {
 
 extern "C" {
 
-/// The state of the coexistence.
+/// The state of the coexistence with other radios.
 ///
 /// \fills{rfIccInfo}
 /// \sent
