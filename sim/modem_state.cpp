@@ -11,7 +11,6 @@ namespace sim {
 namespace {
 
 constexpr const char* kTag = "sim";
-constexpr uint16_t kAtText = 0x8100;
 constexpr uint16_t kAtCommand = 3;
 constexpr uint16_t kWriteNv = 51;
 
