@@ -22,6 +22,7 @@ public:
     JsonNode(const nlohmann::json& json, std::string path) : mJson(json), mPath(std::move(path)) {}
 
     const nlohmann::json& json() const { return mJson; }
+    const std::string& path() const { return mPath; }
 
     /// Whether the member exists and is not null. Every other member function throws ScenarioError.
     bool has(std::string_view key);

@@ -1,7 +1,7 @@
 /// Fields of messages, written down in tables.
 #pragma once
 
-#include "message.h"
+#include "host/wire/message.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,9 @@
 // Where the modem camps: cell information and the state of the radio connection.
 
-#include "handlers.h"
+#include "requests.h"
 
 namespace sim {
+namespace {
 
 Answer getLteCellInfo(Slot& slot, const Request&)
 {
@@ -19,9 +20,7 @@ Answer getLteCellInfo(Slot& slot, const Request&)
 Answer getServingCell(Slot& slot, const Request&)
 {
     const Cell* cell = slot.camped();
-    Answer answer;
-    answer.fields.set(256, cell != nullptr ? servingCellBlock(*cell, slot.plmn) : servingCellBlock({}, {}));
-    return answer;
+    return blockAnswer(cell != nullptr ? servingCellBlock(*cell, slot.plmn) : servingCellBlock({}, {}));
 }
 
 Answer getAllCells(Slot& slot, const Request& request)
@@ -43,6 +42,19 @@ Answer getRrcStatus(Slot& slot, const Request&)
     Answer answer;
     answer.fields.setNumber(256, static_cast<uint32_t>(cell != nullptr ? cell->rrc : RrcState::Idle));
     return answer;
+}
+
+} // namespace
+
+Domain cellInfoRequests()
+{
+    static constexpr MessageRow messages[] = {
+        {"GetAllCellularCellInfo", getAllCells},
+        {"GetLteCellInfo", getLteCellInfo},
+        {"GetRRCStatus", getRrcStatus},
+        {"GetServingCellularCellInfo", getServingCell},
+    };
+    return {messages};
 }
 
 } // namespace sim

@@ -1,4 +1,4 @@
-#include "connection.h"
+#include "host/wire/connection.h"
 
 #include "zor/log.h"
 

@@ -1,5 +1,5 @@
 // The message functions of the device boundary.
-#include "message.h"
+#include "host/wire/message.h"
 
 #include <cstring>
 #include <new>

@@ -1,6 +1,6 @@
 // The modem's non-volatile items.
 
-#include "handlers.h"
+#include "requests.h"
 
 namespace sim {
 namespace {
@@ -9,8 +9,6 @@ NvKey nvKey(const Request& request)
 {
     return {request.fields.number<int32_t>(256), request.fields.number<int32_t>(257)};
 }
-
-} // namespace
 
 Answer readNv(Slot& slot, const Request& request)
 {
@@ -31,6 +29,17 @@ Answer writeNv(Slot& slot, const Request& request)
     }
     slot.nv[key] = request.fields.bytes(0x8102);
     return {};
+}
+
+} // namespace
+
+Domain nvRequests()
+{
+    static constexpr MessageRow messages[] = {
+        {"ReadNv", readNv},
+        {"WriteNv", writeNv},
+    };
+    return {messages};
 }
 
 } // namespace sim

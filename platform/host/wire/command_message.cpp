@@ -1,4 +1,4 @@
-#include "command_message.h"
+#include "host/wire/command_message.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
-// Redundant transport of an IMS call's media, and the routes of packets.
+// Redundant transport of an IMS call's media.
 
-#include "handlers.h"
+#include "requests.h"
 
 #include <algorithm>
 #include <random>
@@ -23,13 +23,6 @@ Bytes publicKeyOf(int slot, int32_t id, int32_t keyType)
     return key;
 }
 
-uint8_t routeOf(const Slot& slot)
-{
-    constexpr uint8_t kNone = 0;
-    constexpr uint8_t kMobileNetwork = 1;
-    return slot.camped() != nullptr ? kMobileNetwork : kNone;
-}
-
 /// How many calls' redundancy was started and not ended.
 uint8_t startedCalls(const Slot& slot)
 {
@@ -37,14 +30,6 @@ uint8_t startedCalls(const Slot& slot)
     const auto& calls = slot.settings.all("SetImsRtpRedunControlInfo");
     return static_cast<uint8_t>(std::ranges::count_if(
         calls, [](const auto& call) { return call.second.template number<uint8_t>(256) == kStart; }));
-}
-
-} // namespace
-
-bool hasRemoteKey(const Slot& slot, const Request& request)
-{
-    const Bytes call = keyOf(request.fields.number<int32_t>(257));
-    return slot.settings.find("SetImsRtpRedunRemotePublicKey", call) != nullptr;
 }
 
 Answer getRedundancyCapability(Slot&, const Request&)
@@ -113,11 +98,24 @@ Answer syncDataPath(Slot& slot, const Request& request)
     return answer;
 }
 
-Answer getPacketRoute(Slot& slot, const Request&)
+} // namespace
+
+bool hasRemoteKey(const Slot& slot, const Request& request)
 {
-    Answer answer;
-    answer.fields.setNumber(256, routeOf(slot));
-    return answer;
+    const Bytes call = keyOf(request.fields.number<int32_t>(257));
+    return slot.settings.find("SetImsRtpRedunRemotePublicKey", call) != nullptr;
+}
+
+Domain rtpRedundancyRequests()
+{
+    static constexpr MessageRow messages[] = {
+        {"GetImsRtpRedunCapability", getRedundancyCapability},
+        {"GetImsRtpRedunPublicKey", getPublicKey},
+        {"SetImsRtpRedunControlInfo", controlRedundancy},
+        {"SetImsRtpRedunRemotePublicKey", setRemoteKey},
+        {"SyncImsRtpRedunDataPathConfig", syncDataPath},
+    };
+    return {messages};
 }
 
 } // namespace sim

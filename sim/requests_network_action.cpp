@@ -1,13 +1,11 @@
 // Network actions: an action is active from its request until it is rolled back.
 
-#include "handlers.h"
+#include "requests.h"
 
 namespace sim {
 namespace {
 
 enum class ActionState : int32_t { Unknown = 0, Active = 1, RolledBack = 2 };
-
-} // namespace
 
 Answer sendNetworkAction(Slot& slot, const Request& request)
 {
@@ -39,6 +37,18 @@ Answer getNetworkActionState(Slot& slot, const Request& request)
     answer.fields.setNumber(257, static_cast<int32_t>(state));
     answer.fields.setNumber(258, action != nullptr ? action->number<int32_t>(257) : 0);
     return answer;
+}
+
+} // namespace
+
+Domain networkActionRequests()
+{
+    static constexpr MessageRow messages[] = {
+        {"GetNetworkActionState", getNetworkActionState},
+        {"RollbackNetworkAction", rollbackNetworkAction},
+        {"SendNetworkAction", sendNetworkAction},
+    };
+    return {messages};
 }
 
 } // namespace sim

@@ -1,7 +1,7 @@
 /// One end of a socket between a program and the simulated modem's process: messages as frames, both ways.
 #pragma once
 
-#include "frame_stream.h"
+#include "host/wire/frame_stream.h"
 
 #include <asio.hpp>
 

@@ -3,7 +3,7 @@
 //   u8 1, u16 tag, u16 length, bytes                           a field
 //   u8 2, u16 tag, u16 count, u16 number of elements that are set, then for each, by ascending index:
 //   u16 index, u16 length, bytes
-#include "message.h"
+#include "host/wire/message.h"
 
 namespace host {
 namespace {

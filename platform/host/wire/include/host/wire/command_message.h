@@ -1,7 +1,7 @@
 /// Commands to the simulation and their answers, among the messages to and from the modem.
 #pragma once
 
-#include "message.h"
+#include "host/wire/message.h"
 
 #include <string>
 

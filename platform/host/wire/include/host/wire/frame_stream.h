@@ -1,7 +1,7 @@
 /// Frames cut out of the bytes that a peer sends, in whatever pieces these come.
 #pragma once
 
-#include "message.h"
+#include "host/wire/message.h"
 
 namespace host {
 

@@ -1,7 +1,7 @@
 // Bands. +EPBSE has decimal masks - GSM, UMTS, then one per 32 bands of LTE - and +EPBSEH the same sets and those
 // of NR as hexadecimal numbers.
 
-#include "at_handlers.h"
+#include "requests.h"
 
 #include <charconv>
 #include <optional>
@@ -185,21 +185,6 @@ constexpr AtRule kWorldModePolicy[] = {{AtRule::Type::Number, 0, 2}};
 constexpr AtRule kActiveTechnologies[] = {{AtRule::Type::Number, 0, 2}, {AtRule::Type::Number, 0, 1},
                                           {AtRule::Type::Number, 0, 1}, {AtRule::Type::Number, 0, 1},
                                           {AtRule::Type::Number, 0, 1}, {AtRule::Type::Number, 0, 1}};
-constexpr AtRule kTransmitAntenna[] = {
-    {AtRule::Type::Number, 0, 6}, {AtRule::Type::Number, 0, 127}, {AtRule::Type::Number, 0, 127, true}};
-
-constexpr AtCommand kBandCommands[] = {
-    {.name = "+EPBSE", .set = setMasks, .query = queryMasks, .test = testMasks},
-    {.name = "+EPBSEH", .set = setHex, .query = queryHex, .test = testHex},
-    {.name = "+ECBANDCFG", .set = setBandClasses, .query = queryBandClasses},
-    {.name = "+EWMPOLICY", .set = setStored, .query = queryStored, .rules = kWorldModePolicy, .initial = "1"},
-    {.name = "+ECSRA",
-     .set = setStored,
-     .query = queryStored,
-     .rules = kActiveTechnologies,
-     .initial = "2,0,1,0,1,0"},
-    {.name = "+ETXANT", .set = setStored, .query = queryStored, .rules = kTransmitAntenna, .initial = "0,0"},
-};
 
 } // namespace
 
@@ -228,9 +213,24 @@ AtReply countTransmitPaths(const AtCall& call)
     return {AtResult::Ok, {wide ? R"(+EGMC: "QueryTxVerifyIdx",2)" : R"(+EGMC: "QueryTxVerifyIdx",1)"}};
 }
 
-std::span<const AtCommand> bandCommands()
+Domain bandsRequests()
 {
-    return kBandCommands;
+    static constexpr AtCommand commands[] = {
+        {.name = "+EPBSE", .set = setMasks, .query = queryMasks, .test = testMasks},
+        {.name = "+EPBSEH", .set = setHex, .query = queryHex, .test = testHex},
+        {.name = "+ECBANDCFG", .set = setBandClasses, .query = queryBandClasses},
+        {.name = "+EWMPOLICY",
+         .set = setStored,
+         .query = queryStored,
+         .rules = kWorldModePolicy,
+         .initial = "1"},
+        {.name = "+ECSRA",
+         .set = setStored,
+         .query = queryStored,
+         .rules = kActiveTechnologies,
+         .initial = "2,0,1,0,1,0"},
+    };
+    return {.commands = commands};
 }
 
 } // namespace sim
