@@ -1,7 +1,6 @@
-/// The SIM card, its lock, and how several of them are served.
+/// The SIM card and its lock.
 #include "at/at_answer.h"
 #include "at/at_log.h"
-#include "at/at_text.h"
 #include "at/vorn_at_client.h"
 
 #include <algorithm>
@@ -56,10 +55,4 @@ int VornAtClient::getSimlockLockStatus(void*, RadioRequestCallback)
     zorLogE(kTag, "%s : unsupported operation, plese see Java remoteSimlockGetSimlockStatusEx instead",
             __func__);
     return RADIO_APIS_FAILURE;
-}
-
-int VornAtClient::setMsimSubModePref(int mode, void* userData, RadioRequestCallback cb)
-{
-    zorLogD(kTag, "%s - enter. slotId=%d mode=%d", __func__, mInstance, mode);
-    return sendSetter(AtText<128>("AT+ESBP=5,\"SBP_DSDA\",%d", mode), userData, cb);
 }

@@ -28,6 +28,15 @@ inline uint32_t failureOf(const VornView& answer)
     return answer.getResult() != 0;
 }
 
+inline constexpr int kQuarterStepRat = 4; ///< its thresholds are counted in quarters
+inline constexpr int kWholeStepRat = 7;
+
+/// Whether the modem has thresholds for a radio access technology.
+constexpr bool hasThresholds(int rat)
+{
+    return rat == kQuarterStepRat || rat == kWholeStepRat;
+}
+
 } // namespace radio
 
 /// Ids of the standard messages.

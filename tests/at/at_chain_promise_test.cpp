@@ -1,5 +1,5 @@
 #include "at/at_chain_promise.h"
-#include "at_fixture.h"
+#include "support/at_fixture.h"
 
 using namespace test;
 using mindroid::make;

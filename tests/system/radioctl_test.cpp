@@ -1,4 +1,5 @@
 /// radioctl as its users run it.
+#include "support/public_requests.h"
 #include "system/examples.h"
 
 #include <gmock/gmock.h>
@@ -45,24 +46,6 @@ Ran radioctl(const std::string& arguments, const std::string& input = "")
     Ran run = shell(command);
     std::remove(inputFile.c_str());
     return run;
-}
-
-/// The functions of the public headers that take a request callback, but for the registrations.
-std::set<std::string> publicRequests()
-{
-    std::set<std::string> names;
-    const std::regex declaration(R"(RADIO_API int (radio\w+)\([^;]*RadioRequestCallback)");
-    for (const auto& entry : std::filesystem::directory_iterator(DEVICE_ROOT "/../../include/radio_apis")) {
-        std::ifstream file(entry.path());
-        const std::string text{std::istreambuf_iterator<char>(file), {}};
-        for (std::sregex_iterator at(text.begin(), text.end(), declaration); at != std::sregex_iterator();
-             ++at) {
-            names.insert((*at)[1]);
-        }
-    }
-    names.erase("radioRegisterVsEvent");
-    names.erase("radioRegisterRadioEvent");
-    return names;
 }
 
 std::string nameOf(const Example& example)
@@ -121,7 +104,7 @@ TEST(Radioctl, HasACommandForEveryPublicRequest)
     for (const json& request : json::parse(radioctl("list --json").output)) {
         listed.insert(request.at("entryPoint"));
     }
-    EXPECT_EQ(listed, publicRequests());
+    EXPECT_EQ(listed, test::publicRequests(DEVICE_ROOT "/../../include/radio_apis"));
 }
 
 TEST(Radioctl, PutsEarlierAnswersIntoLaterLines)

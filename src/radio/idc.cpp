@@ -1,4 +1,4 @@
-/// Thresholds per radio access technology: of two active SIM cards, and of coexistence in the device.
+/// Coexistence in the device.
 #include "radio/radio_request.h"
 
 #include <array>
@@ -6,14 +6,6 @@
 using namespace radio;
 
 namespace {
-
-constexpr int kQuarterStepRat = 4; ///< its thresholds are counted in quarters
-constexpr int kWholeStepRat = 7;
-
-bool hasThresholds(int rat)
-{
-    return rat == kQuarterStepRat || rat == kWholeStepRat;
-}
 
 /// As on the wire.
 struct IdcEntry {
@@ -28,21 +20,6 @@ using IdcTable = std::array<IdcEntry, kRadioMaxIdcOffsets>;
 static_assert(sizeof(IdcTable) == 240);
 
 } // namespace
-
-int VornRadioClient::setDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData,
-                                             RadioRequestCallback cb)
-{
-    zorLogD(kTag, "%s - enter", __func__);
-    if (!hasThresholds(rat)) {
-        return RADIO_APIS_NOT_SUPPORTED;
-    }
-    const int64_t steps = rat == kQuarterStepRat ? 4 : 1;
-    auto request = newRequest(RadioMessage::SetRatThresholds);
-    request->addVornTlvUint8(258, static_cast<uint8_t>(rat));
-    request->addVornTlvInt16(256, static_cast<int16_t>(steps * thresh1));
-    request->addVornTlvInt16(257, static_cast<int16_t>(steps * thresh2));
-    return send(request, userData, cb, processVoidResponseMsg);
-}
 
 int VornRadioClient::setIdcOffset(int rat, int offset, const std::vector<RadioIdcOffsetConfig>& configs,
                                   void* userData, RadioRequestCallback cb)

@@ -1,16 +1,11 @@
-/// How network actions lie in their message.
 #include "support/request_rows.h"
-
-#include <gtest/gtest.h>
 
 using namespace test;
 
 namespace {
 
-using Row = RequestRow;
-
 /// Cells differ in how many entries their lists have, and in whether their optional values are present.
-RadioActionCellInfo cell(uint16_t number)
+RadioActionCellInfo actionCell(uint16_t number)
 {
     const auto count = static_cast<uint16_t>(number % 19 == 18 ? 0x0300 : number % 19);
     RadioActionCellInfo info{
@@ -58,7 +53,7 @@ Bytes wireCell(uint16_t number)
 }
 
 /// The action with its numbers filled in; `sent` of its parameter blocks are due, and `cells`.
-Row row(RadioActionConfigType action, int sent, const Fields& cells)
+RequestRow action(const Texts& log, RadioActionConfigType action, int sent, const Fields& cells = {})
 {
     Fields request = int32s(256, {1, -2, 3, 4, 5, 6});
     std::memcpy(&action, packed(1, -2, 3, 4, 5, 6).data(), 24);
@@ -70,44 +65,47 @@ Row row(RadioActionConfigType action, int sent, const Fields& cells)
         }
     }
     request.push_back(array(262, blocks));
-    request.insert(request.end(), cells.begin(), cells.end());
-    return setter("sendNetworkAction", radioSendNetworkAction, 0x3871, request, action);
+    return setter(log, radioSendNetworkAction, 0x3871, joined({request, cells}), action);
 }
 
 /// An action with lists of cells, and the numbers of cells that are due on the wire for them.
-Row lists(RadioActionCellList first, RadioActionCellList second, uint8_t firstSent, uint8_t secondSent)
+RequestRow cellLists(RadioActionCellList first, RadioActionCellList second, uint8_t firstSent,
+                     uint8_t secondSent)
 {
     Bytes block = packed(0x01828384, uint8_t{0x85}, uint8_t{0x86}, 0x0788898A);
     for (const auto& [list, sent, end] :
          {std::tuple{&first, firstSent, 14028u}, {&second, secondSent, 28046u}}) {
         append(block, {list->present, sent});
         for (uint16_t i = 0; i < 64; ++i) {
-            list->cells[i] = cell(i);
+            list->cells[i] = actionCell(i);
             append(block, i < sent ? wireCell(i) : Bytes());
         }
         block.resize(end);
     }
-    RadioActionConfigType action{.cellsPresent = 2, .header = 0x01828384, .headerByte = 0x85};
-    action.optionalPresent = 0x86;
-    action.optional = 0x0788898A;
-    action.first = first;
-    action.second = second;
-    return row(action, 0, {raw(263, block)});
+    RadioActionConfigType config{.cellsPresent = 2, .header = 0x01828384, .headerByte = 0x85};
+    config.optionalPresent = 0x86;
+    config.optional = 0x0788898A;
+    config.first = first;
+    config.second = second;
+    return action({}, config, 0, {raw(263, block)});
 }
 
 } // namespace
 
-TEST(VsNetworkActions, AreSentByteForByte)
+TEST(NetworkAction, Requests)
 {
-    const std::vector<Row> rows = {
-        row({.parameterCount = 0}, 0, {}),
-        row({.parameterCount = 8}, 8, {}),
-        row({.parameterCount = 10, .header = 9}, 8, {}),
-        row({.cellsPresent = 1, .optional = 7}, 0, {raw(263, Bytes(28046))}),
-        lists({1, 2, {}}, {3, 16, {}}, 2, 16),
-        lists({1, 0, {}}, {0, 5, {}}, 0, 0),
-        lists({1, 64, {}}, {1, 65, {}}, 64, 64),
-        lists({1, 255, {}}, {1, 1, {}}, 64, 1),
-    };
-    checkRows(rows, "VornVsClient", {});
+    checkVendorRows({
+        action("sendNetworkAction - enter", {.parameterCount = 0}, 0),
+        action({}, {.parameterCount = 8}, 8),
+        action({}, {.parameterCount = 10, .header = 9}, 8),
+        action({}, {.cellsPresent = 1, .optional = 7}, 0, {raw(263, Bytes(28046))}),
+        cellLists({1, 2, {}}, {3, 16, {}}, 2, 16),
+        cellLists({1, 0, {}}, {0, 5, {}}, 0, 0),
+        cellLists({1, 64, {}}, {1, 65, {}}, 64, 64),
+        cellLists({1, 255, {}}, {1, 1, {}}, 64, 1),
+        setter("rollbackNetworkAction - enter", radioRollbackNetworkAction, 0x3873),
+        query(Untold, {"getNetworkActionState - enter", "getNetworkActionState cb enter"},
+              radioGetNetworkActionState, 0x3875, {int32(256, -7)}, int32s(256, {5, -6, 7}), packed(5, -6, 7),
+              -7),
+    });
 }
