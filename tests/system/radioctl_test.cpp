@@ -36,96 +36,205 @@ Ran shell(const std::string& command)
     return run;
 }
 
-/// Runs radioctl in a shell, with standard error in front of what is looked at.
-Ran radioctl(const std::string& arguments, const std::string& input = "")
+/// Runs radioctl in a shell; what it prints to standard error comes along, unless a redirection says otherwise.
+Ran radioctl(const std::string& arguments, const std::string& input = "", const std::string& errors = "2>&1")
 {
     const std::string inputFile = testing::TempDir() + "radioctl-input-" + std::to_string(getpid());
     std::ofstream(inputFile) << input;
-    const std::string command = "RADIO_LOG=off RADIO_DEVICE_ROOT='" DEVICE_ROOT "' '" RADIOCTL "' " +
-                                arguments + " <'" + inputFile + "' 2>&1";
+    const std::string command =
+        "RADIO_DEVICE_ROOT='" DEVICE_ROOT "' '" RADIOCTL "' " + arguments + " <'" + inputFile + "' " + errors;
     Ran run = shell(command);
     std::remove(inputFile.c_str());
     return run;
 }
 
-std::string nameOf(const Example& example)
+/// What --json prints, which is one object whatever happens.
+json answerOf(const std::string& arguments, const std::string& input = "")
 {
-    return example.line.substr(0, example.line.find(' '));
+    return json::parse(radioctl("--json " + arguments, input, "2>/dev/null").output);
+}
+
+json requestList()
+{
+    return json::parse(radioctl("list --json").output);
+}
+
+/// Command lines, what they print among other things, and their exit status.
+struct Row {
+    std::string arguments;
+    std::string input;
+    int status;
+    std::string text;
+};
+
+void check(const std::vector<Row>& rows)
+{
+    for (const Row& row : rows) {
+        const Ran run = radioctl(row.arguments, row.input);
+        EXPECT_EQ(run.status, row.status) << row.arguments << "\n" << row.input << "\n" << run.output;
+        EXPECT_THAT(run.output, HasSubstr(row.text)) << row.arguments << "\n" << row.input;
+    }
+}
+
+std::string contentsOf(const std::string& path)
+{
+    std::ifstream file(path);
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 } // namespace
 
 TEST(Radioctl, TellsWhatItCan)
 {
-    EXPECT_THAT(radioctl("--help").output, HasSubstr("Exit status"));
-    EXPECT_THAT(radioctl("list").output, HasSubstr("get-rrc-status"));
-    const struct {
-        std::string request;
-        std::string text;
-    } helps[] = {
-        {"write-nv", "at most 20480 bytes"},
-        {"set-carrier-lock-blob", "1 to 2048 bytes"},
-        {"set-sido-issue-config", "at most 20 numbers"},
-        {"set-atom-status", "set-atom-status id status subPolicy [info...]"},
-        {"set-atom-status", "      mask             0 to 4294967295"},
-        {"set-atom-status", "    maskCount        0 to 4294967295"},
-        {"set-modem-indication-policy", "0 to 4294967295; shortest time between two, ms"},
-        {"load-atom-application", "list of at most 16, each: text of at most 63 characters"},
-        {"send-network-action", "value9           0 to 18446744073709551615"},
-        {"send-rf-icc-device-err", "hexadecimal digits or @FILE, at most 32 bytes"},
-    };
-    for (const auto& row : helps) {
-        EXPECT_THAT(radioctl(row.request + " --help").output, HasSubstr(row.text));
-    }
-    for (const json& request : json::parse(radioctl("list --json").output)) {
+    check({
+        {"--help", "", 0, "Exit status"},
+        {"help", "", 0, "batch FILE"},
+        {"--version", "", 0, "radioctl 0."},
+        {"list", "", 0, "get-rrc-status"},
+        {"sim", "", 0, "sim indicate NAME"},
+        {"watch --help", "", 0, "--log"},
+        {"help get-rrc-status", "", 0, "Function: radioGetRRCStatus (radio_apis/cell_info.h)"},
+        {"get-serving-cellular-cell-info --help", "", 0, "0 to 4294967295"},
+        {"set-ca-status --help", "", 0, "Example:  radioctl set-ca-status lte on"},
+        {"write-nv --help", "", 0, "at most 20480 bytes"},
+        {"set-carrier-lock-blob --help", "", 0, "1 to 2048 bytes"},
+        {"set-sido-issue-config --help", "", 0, "at most 20 numbers"},
+        {"set-atom-status --help", "", 0, "set-atom-status id status subPolicy [MEMBER=VALUE...]\n"},
+        {"set-band-prefer --help", "", 0, "set-band-prefer RAT --bands LIST | RAT HEX\n"},
+        {"set-modem-indication-policy --help", "", 0, "(0 to 4294967295 ms)"},
+        {"load-atom-application --help", "", 0, "list of at most 16, each: text of at most 63 characters"},
+    });
+    for (const json& request : requestList()) {
         EXPECT_EQ(radioctl(request.at("name").get<std::string>() + " --help").status, 0) << request;
     }
-}
-
-TEST(Radioctl, ShowsCells)
-{
-    const Ran table = radioctl("get-all-cellular-cell-info");
-    EXPECT_EQ(table.status, 0);
-    EXPECT_THAT(table.output, HasSubstr("neighbours ("));
-    const Ran run = radioctl("get-all-cellular-cell-info --json");
-    EXPECT_EQ(run.status, 0);
-    const json record = json::parse(run.output).at("record");
-    EXPECT_GE(record.at("neighbours").size(), 4u);
-    EXPECT_LT(record.at("rsrp").get<int>(), -40);
-    EXPECT_THAT(table.output,
-                HasSubstr("neighbours (" + std::to_string(record.at("neighbours").size()) + ")"));
-    EXPECT_EQ(json::parse(radioctl("get-serving-cellular-cell-info --json").output).at("record").at("pci"),
-              record.at("pci"));
 }
 
 TEST(Radioctl, HasACommandForEveryPublicRequest)
 {
     std::set<std::string> listed;
-    for (const json& request : json::parse(radioctl("list --json").output)) {
+    for (const json& request : requestList()) {
         listed.insert(request.at("entryPoint"));
     }
     EXPECT_EQ(listed, test::publicRequests(DEVICE_ROOT "/../../include/radio_apis"));
+}
+
+TEST(Radioctl, ExplainsAnswers)
+{
+    check({
+        {"get-serving-cellular-cell-info", "", 0, "rat            NR (5)\nPLMN           001/01\n"},
+        {"get-serving-cellular-cell-info", "", 0, "rsrp           -85 dBm\n"},
+        {"get-serving-cellular-cell-info --raw", "", 0, "\nrsrp           -85\n"},
+        {"get-all-cellular-cell-info", "", 0, "\nneighbours (5)\n"},
+        {"get-rrc-status --json --explain", "", 0,
+         R"("record":{"status":2},"explained":{"status":{"name":"connected"}}})"},
+        {"batch -", "set-qrxlvmin-cfg option=lte q1=-120\nget-qrxlvmin-cfg lte\n", 0, "rat     LTE (13)\n"},
+        {"get-sim-tray-status --trace --log debug", "", 0, "VornVsClient"},
+    });
+    const json cells = answerOf("get-all-cellular-cell-info").at("record");
+    EXPECT_LT(cells.at("serving").at("rsrp").get<int>(), -40);
+    EXPECT_EQ(answerOf("get-serving-cellular-cell-info").at("record"), cells.at("serving"));
+}
+
+/// Programs read one object in every case.
+TEST(Radioctl, AnswersJsonWhateverHappens)
+{
+    const struct {
+        const char* arguments;
+        const char* error;
+        const char* reason;
+    } rows[] = {
+        {"get-rrc-status --what", "usage", "there is no option '--what'"},
+        {"get-rrc-stats", "usage", "did you mean 'get-rrc-status'?"},
+        {"--instance 3 list", "usage", "3"},
+        {"set-centric-mode 2", "failed", "failed: reason unknown (1); the modem said: +CME ERROR: 50"},
+        {"set-dsda-prefer-cust-thresh 5 1 2", "refused", "refused by the library: not supported (2)"},
+        {"read-nv 424242 0", "failed", "the modem reported a failure; the modem said: result "},
+        {"--device unix:/no/such get-rrc-status", "unreachable", "/no/such"},
+        {"--device embedded:/no/such.json get-rrc-status", "unreachable", "/no/such.json"},
+        {"sim indicate tset --value 7", "failed", "did you mean 'TestInd'?"},
+        {"--timeout 50 batch -", "timeout", "no answer within 50 ms"},
+    };
+    for (const auto& row : rows) {
+        const std::string fault = "sim fault-add match='{\"message\":\"GetRRCStatus\"}' action=drop\nget-rrc-status\n";
+        const Ran run = radioctl(std::string("--json ") + row.arguments, fault, "2>/dev/null");
+        const std::string line = run.output.substr(run.output.rfind('\n', run.output.size() - 2) + 1);
+        const json answer = json::parse(line, nullptr, false);
+        ASSERT_TRUE(answer.is_object()) << row.arguments << "\n" << run.output;
+        EXPECT_EQ(answer.value("error", ""), row.error) << row.arguments;
+        EXPECT_THAT(answer.value("reason", ""), HasSubstr(row.reason)) << row.arguments;
+    }
 }
 
 TEST(Radioctl, PutsEarlierAnswersIntoLaterLines)
 {
     const Ran run =
         radioctl("--json batch -", "cell = get-all-cellular-cell-info\n"
-                                   "write-nv 7 0 ${cell.neighbours[0].pci}$cell.rat'55' # six digits\n"
+                                   "write-nv 7 0 ${cell.neighbours[0].pci}$cell.serving.rat'55' # six digits\n"
                                    "nv = read-nv 7 0\n"
                                    "load-atom-application strings='[\"$nv\",'$cell.neighbours[5].rat']'\n");
     EXPECT_EQ(run.status, 2); // the last line's list holds a number
     EXPECT_THAT(run.output, HasSubstr(R"("data":"102555")"));
-    EXPECT_THAT(run.output, HasSubstr("strings[1]: 4 is not a text"));
+    EXPECT_THAT(run.output, HasSubstr("there is no element 5 in"));
+}
+
+TEST(Radioctl, RunsBatchesThatTest)
+{
+    const std::string report = testing::TempDir() + "radioctl-junit-" + std::to_string(getpid());
+    const std::string cell = "get-serving-cellular-cell-info\n";
+    check({
+        {"batch -", cell + "expect rat = 5\nexpect rat = nr\nexpect rsrp > -100\nexpect result = 0\n", 0, "PLMN"},
+        {"batch -", cell + "expect rsrp < -100\n", 1, "expected rsrp < -100, but it is -85\nradioctl: stopped at -:2"},
+        {"batch -", cell + "expect rsrp ? 1\n", 2, "expect: '?' is none of = != < <= > >= ~"},
+        {"batch -", cell + "expect rspr > 1\n", 2, "did you mean 'rsrp'?"},
+        {"batch -", "expect rsrp > 1\n", 2, "no request was sent before"},
+        {"batch -", "! read-nv 9 9\nexpect reason ~ modem\n", 0, "the modem reported a failure"},
+        {"batch -", "! get-rrc-status\n", 1, "it succeeded, which it should not"},
+        {"batch -", "repeat 2\n sleep 1\n repeat 2\n  get-rrc-status\n end\nend\n", 0,
+         "connected (2)\nstatus  connected (2)\nstatus  connected (2)\nstatus  connected (2)\n"},
+        {"batch -", "repeat 2\nget-rrc-status\n", 2, "repeat in line 1 has no end"},
+        {"batch -", "get-rrc-status --raw\n--json get-rrc-status\nlist\nsim state\n", 0, "status  2\n{\"request\""},
+        {"batch -", "get-rrc-status --device embedded\n", 2, "--device, --trace and --log hold for the whole batch"},
+        {"batch -", "set-sar-dsi-state 3\n--instance 1 get-sar-dsi-state\nexpect state = 0\n"
+                    "get-sar-dsi-state\nexpect state = 3\n", 0, "ok"},
+        {"batch -", "watch get-rrc-status --count 2 --every 10\nget-rrc-status\n", 0, "status  connected (2)"},
+        {"batch -", "events test --count 1 --do 'sim indicate test --value 7'\nget-rrc-status\n", 0, "value  7"},
+        {"batch -", "require-modem-reboot\nwait link\nget-rrc-status\nsim restart\nwait link\nget-rrc-status\n", 0,
+         "connected (2)"},
+        {"batch --keep-going --junit " + report + " -", "read-nv 9 9\nget-rrc-status\nsleep x\n", 1,
+         "failed at -:3"},
+        {"batch --junit /no/such/file -", "get-rrc-status\n", 1, "can't write /no/such/file"},
+    });
+    const std::string xml = contentsOf(report);
+    EXPECT_THAT(xml, HasSubstr(R"(tests="3" failures="2")"));
+    EXPECT_THAT(xml, HasSubstr(R"(name="1: read-nv 9 9")"));
+    EXPECT_THAT(xml, HasSubstr(R"(<failure message="the modem reported a failure)"));
+    std::remove(report.c_str());
 }
 
 TEST(Radioctl, WatchesCells)
 {
-    const Ran run = radioctl("watch get-all-cellular-cell-info --every 10 --count 2");
+    const std::string log = testing::TempDir() + "radioctl-log-" + std::to_string(getpid());
+    const Ran run = radioctl("watch get-all-cellular-cell-info --every 10 --count 2 --log " + log);
     EXPECT_EQ(run.status, 0);
-    const std::regex serving(R"(serving +NR +78 +627264 +101 +-85 +-10 +18  ▂▄▆█\n)");
+    const std::regex serving(R"(serving +NR +78 +627264 +101 +-85 +-10 +18  ▂▄▆█  (▆)+\n)");
     using Lines = std::sregex_iterator;
     EXPECT_EQ(std::distance(Lines(run.output.begin(), run.output.end(), serving), Lines()), 2);
+    const std::string table = contentsOf(log);
+    EXPECT_THAT(table, testing::StartsWith("time,part,failure,rat,mcc,"));
+    EXPECT_EQ(std::ranges::count(table, '\n'), 1 + 2 * 7); // two answers with a serving cell, five others and a count
+    std::remove(log.c_str());
+    EXPECT_TRUE(json::parse(radioctl("watch get-rrc-status --json --count 1").output).contains("time"));
+}
+
+TEST(Radioctl, TellsOfTheLinkAmongEvents)
+{
+    const std::string batch = testing::TempDir() + "radioctl-batch-" + std::to_string(getpid());
+    std::ofstream(batch) << "sim restart\nwait link\nsim indicate test --value 7\n";
+    const Ran run = radioctl("events test --count 1 --do 'batch " + batch + "'");
+    std::remove(batch.c_str());
+    for (const char* part : {"listening for test", "link-lost", "link-back", "test\nvalue  7\n"}) {
+        EXPECT_THAT(run.output, HasSubstr(part));
+    }
 }
 
 /// The modem's block is what the event holds, its counts included.
@@ -162,53 +271,6 @@ TEST(Radioctl, CompletesAndDescribesItself)
     }
     const std::regex strayMacro(R"(\n[.'](?!(TH|SH|SS|TP|B|BR|RS|RE|nf|fi)\b))");
     EXPECT_FALSE(std::regex_search(page, strayMacro));
-}
-
-TEST(Radioctl, TakesAsManyElementsAsARecordHolds)
-{
-    const struct {
-        std::string request; // # stands for the list
-        std::string element;
-        size_t most;
-    } lists[] = {
-        {"set-atom-status 1 2 3 masks=#", R"({"id":1,"mask":2})", 40},
-        {"set-atom-status 1 2 3 parameters=#", R"({"id":1})", 4},
-        {"load-atom-application strings=#", "\"" + std::string(63, 's') + "\"", 16},
-        {"load-atom-application values=#", "1", 32},
-        {"set-site-cell-info 0 cells=#", R"({"arfcn":1})", 64},
-        {"send-score-info scores=#", R"({"values":[1,2,3,4,5,6]})", 16},
-        {"set-hyper-uplink-paras values=#", "-1", 16},
-        {"set-hyper-uplink-paras list2={\"values\":#}", "-1", 10},
-        {"set-modem-indication-policy policies=#", R"({"text1":"123456789","text2":"abc"})", 48},
-        {"set-indication-config 1 configs=#", R"({"indication":4294967295})", 64},
-        {"send-rf-icc-clat-kpi entries=#", R"({"level":255})", 23},
-        {"set-ims-audio-quality-threshold values=#", "1", 22},
-        {"set-adaptive-handover-threshold values=#", "1", 6},
-        {"set-idc-offset 4 0 #", R"({"f0":255})", 20},
-        {"send-network-action parameters=#", R"({"values":[1,2,3,4]})", 8},
-        {"send-network-action cellsPresent=1 second={\"present\":1,\"cells\":#}", R"({"h":[1,2,3]})", 64},
-        {"send-network-action cellsPresent=1 first={\"present\":1,\"cells\":[{\"c\":#}]}", "7", 16},
-        {"send-network-action cellsPresent=1 first={\"present\":1,\"cells\":[{\"iPresent\":1,\"j\":#}]}",
-         R"({"value3":9})", 16},
-    };
-    for (const auto& row : lists) {
-        const auto send = [&](size_t count) {
-            std::string list = "[" + row.element;
-            for (size_t i = 1; i < count; ++i) {
-                list += "," + row.element;
-            }
-            const size_t place = row.request.find('#');
-            const size_t word = row.request.rfind(' ', place) + 1;
-            std::string line = row.request;
-            line.replace(place, 1, list + "]").insert(word, "'");
-            return radioctl("batch -", line + "'\n");
-        };
-        const Ran full = send(row.most);
-        EXPECT_EQ(full.status, 0) << row.request << "\n" << full.output;
-        const Ran over = send(row.most + 1);
-        EXPECT_EQ(over.status, 2) << row.request;
-        EXPECT_THAT(over.output, HasSubstr("at most " + std::to_string(row.most) + " are allowed"));
-    }
 }
 
 TEST(Radioctl, SendsEveryRequest)
