@@ -126,12 +126,6 @@ inline void expectRecord(const Rsp& rsp, Bytes expected)
     EXPECT_EQ(differing, expected.end()) << "first at byte " << differing - expected.begin();
 }
 
-inline bool allZero(const RadioApisResultType& record)
-{
-    const auto* bytes = reinterpret_cast<const uint8_t*>(&record);
-    return std::all_of(bytes, bytes + sizeof record, [](uint8_t byte) { return byte == 0; });
-}
-
 /// The row's message leaves on its slot, and its answer becomes its record.
 inline void checkRow(const RequestRow& row, unsigned instance)
 {
