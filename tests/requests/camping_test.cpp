@@ -116,29 +116,28 @@ TEST(Camping, Requests)
 
 TEST(Camping, SwitchesByName)
 {
-    const auto redirect = [](const Texts& log, int on, uint8_t sent) {
-        return setter(log, &VornVsClient::setRedirectOptSetting, 99,
-                      {uint8(256, 5), text(258, "SBP_CONTINUOUS_4G5_REDIRECTION_FAILURE"), uint8(259, sent)},
-                      4, 7, on, 1, 1, 1);
+    const auto redirect = [](int a1, int a2, int on) {
+        return call(&VornVsClient::setRedirectOptSetting, a1, a2, on, 1, 1, 1);
     };
-    const auto attach = [](const Texts& log, int on, uint8_t sent) {
-        constexpr char kName[] = "SBP_MODIFY_NON_DATA_SIM_GMM_ATTACH_PRIORITY_TO_LOW_MSPM_PRIORITY";
-        return setter(log, &VornVsClient::setAttachPriority, 99,
-                      {uint8(256, 5), text(258, kName), uint8(259, sent)}, 0, 2, on, 0, 1);
+    const auto attach = [](int a1, int a2, int on, int a4) {
+        return call(&VornVsClient::setAttachPriority, a1, a2, on, a4, 1);
     };
-    checkVendorRows({redirect("setRedirectOptSetting - enter", 9, 1), redirect({}, 0, 0),
-                     attach("setAttachPriority - enter", 256, 1), attach({}, 0, 0)});
-    const auto redirectOf = [](int a1, int a2) {
-        return call(&VornVsClient::setRedirectOptSetting, a1, a2, 1, 0, 0, 0);
+    const auto row = [](const Texts& log, const Call& set, const char* name, uint8_t sent) {
+        return RequestRow{log, set, 99, {uint8(256, 5), text(258, name), uint8(259, sent)}};
     };
-    const auto attachOf = [](int a1, int a2, int a4) {
-        return call(&VornVsClient::setAttachPriority, a1, a2, 1, a4, 0);
-    };
-    checkRefusals("D VornVsClient: ", {{redirectOf(4, 6), "setRedirectOptSetting - enter", 2},
-                                       {redirectOf(5, 7), "setRedirectOptSetting - enter", 2},
-                                       {attachOf(1, 2, 0), "setAttachPriority - enter", 2},
-                                       {attachOf(0, 1, 0), "setAttachPriority - enter", 2},
-                                       {attachOf(0, 2, 1), "setAttachPriority - enter", 2}});
+    constexpr char kRedirect[] = "SBP_CONTINUOUS_4G5_REDIRECTION_FAILURE";
+    constexpr char kAttach[] = "SBP_MODIFY_NON_DATA_SIM_GMM_ATTACH_PRIORITY_TO_LOW_MSPM_PRIORITY";
+    checkVendorRows({
+        row("setRedirectOptSetting - enter", redirect(4, 7, 9), kRedirect, 1),
+        row({}, redirect(4, 7, 0), kRedirect, 0),
+        row("setAttachPriority - enter", attach(0, 2, 256, 0), kAttach, 1),
+        row({}, attach(0, 2, 0, 0), kAttach, 0),
+    });
+    checkRefusals("D VornVsClient: ", {{redirect(4, 6, 1), "setRedirectOptSetting - enter", 2},
+                                       {redirect(5, 7, 1), "setRedirectOptSetting - enter", 2},
+                                       {attach(1, 2, 1, 0), "setAttachPriority - enter", 2},
+                                       {attach(0, 1, 1, 0), "setAttachPriority - enter", 2},
+                                       {attach(0, 2, 1, 1), "setAttachPriority - enter", 2}});
 }
 
 using CampingAnswers = AtTest;

@@ -16,8 +16,8 @@ TEST(Sim, Requests)
             {query(Result, {method + " - enter", method + " cb enter"}, function, id,
                    {raw(field, counting(300))}, {raw(257, counting(sent))}, blob(kept), data.data(), 300u)});
         const auto with = [&](unsigned length) { return call(function, data.data(), length); };
-        checkInvalid("VornVsClient", {call(function, nullptr, 1u), with(0), with(limit + 1),
-                                      with(65546)}); // the last is 10 in 16 bits
+        // The last length is 10 in 16 bits.
+        checkInvalid("VornVsClient", {call(function, nullptr, 1u), with(0), with(limit + 1), with(65546)});
         const Instance instance(0);
         checkAccepted(with(1));
         checkAccepted(with(limit));

@@ -126,12 +126,6 @@ inline void expectRecord(const Rsp& rsp, Bytes expected)
     EXPECT_EQ(differing, expected.end()) << "first at byte " << differing - expected.begin();
 }
 
-inline bool allZero(const RadioApisResultType& record)
-{
-    const auto* bytes = reinterpret_cast<const uint8_t*>(&record);
-    return std::all_of(bytes, bytes + sizeof record, [](uint8_t byte) { return byte == 0; });
-}
-
 /// The row's message leaves on its slot, and its answer becomes its record.
 inline void checkRow(const RequestRow& row, unsigned instance)
 {
@@ -307,20 +301,21 @@ struct Refusal {
     int code = 1;
 };
 
-inline void checkRefusals(const std::string& tag, const std::vector<Refusal>& rows)
+/// Their lines begin alike.
+inline void checkRefusals(const std::string& begin, const std::vector<Refusal>& rows)
 {
     const Instance instance(1);
     for (const Refusal& row : rows) {
-        checkRefusal(row.call, row.code, tag + row.line);
+        checkRefusal(row.call, row.code, begin + row.line);
     }
 }
 
-/// Calls with an argument that does not fit.
+/// Calls with an argument that does not fit, of the client that logs under a tag.
 inline void checkInvalid(const std::string& tag, const std::vector<Call>& calls)
 {
     const Instance instance(1);
-    for (const Call& call : calls) {
-        checkRefusal(call, 11, "E " + tag + ": invalid paramter found");
+    for (const Call& refused : calls) {
+        checkRefusal(refused, 11, "E " + tag + ": invalid paramter found");
     }
 }
 
