@@ -156,8 +156,8 @@ struct RadioCallRtpSessionMlc {
 };
 static_assert(sizeof(RadioCallRtpSessionMlc) == 8);
 
-/// Record of RADIO_EVENT_SML_STATUS_IND and RADIO_EVENT_RLK_STATUS_IND: lock data as the modem sent it. Private, as
-/// all data of the lock server.
+/// Record of RADIO_EVENT_SML_STATUS_IND and RADIO_EVENT_RLK_STATUS_IND: lock data as the modem sent it,
+/// the lock server's. \confidential
 using RadioLockStatusEvent = RadioBlob<512>;
 static_assert(sizeof(RadioLockStatusEvent) == 516);
 

@@ -15,7 +15,7 @@ struct RadioSimTrayStatus {
     int32_t status[2]; ///< status of each tray, as the modem defines it \countedby{count}
 };
 
-/// Result of the SIM lock requests: what the modem sent back. Private, as all data of the lock server.
+/// Result of the SIM lock requests: what the modem sent back, the lock server's. \confidential
 using RadioSimLockData = RadioBlob<512>;
 
 inline constexpr unsigned kRadioMaxAuthenticationBytes = 256; ///< bytes of the longest challenge or answer

@@ -403,7 +403,8 @@ private:
     {
         // By the declaration, which is not const.
         const CXCursor declaration = clang_getTypeDeclaration(clang_getCanonicalType(type));
-        const auto found = mRecordNames.find(spelled(clang_getCanonicalType(clang_getCursorType(declaration))));
+        const auto found =
+            mRecordNames.find(spelled(clang_getCanonicalType(clang_getCursorType(declaration))));
         return found != mRecordNames.end() ? found->second : "";
     }
 
@@ -481,17 +482,22 @@ private:
     {
         const CXType type = clang_getCanonicalType(clang_getCursorType(cursor));
         const CXCursor definition = clang_getTypeDeclaration(type);
-        const std::string text = commentOf(cursor).text.text;
-        if (text.empty()) {
+        const Text text = commentOf(cursor).text;
+        if (text.text.empty()) {
             fail(cursor, "has no meaning");
         }
         Json members = Json::array();
-        forEachField(type, [&](CXCursor field) { members.push_back(memberOf(definition, type, field)); });
+        forEachField(type, [&](CXCursor field) {
+            members.push_back(memberOf(definition, type, field));
+            if (text.isConfidential) {
+                members.back()["private"] = true;
+            }
+        });
         connectCounts(cursor, members);
         mRecords.push_back({{"name", nameOf(cursor)},
                             {"size", clang_Type_getSizeOf(type)},
                             {"header", fs::path(fileOf(cursor)).filename()},
-                            {"text", text},
+                            {"text", text.text},
                             {"members", members}});
     }
 
