@@ -10,9 +10,9 @@
 
 /// Result of radioGetMsimSubModeState.
 struct RadioMsimSubModeState {
-    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
-    uint32_t subMode; ///< as the modem numbers it, 0 to 255
-    uint32_t state;   ///< its state as the modem numbers it, 0 to 255
+    uint32_t failure; ///< whether the modem reported a failure: 1, otherwise 0 \failure
+    uint32_t subMode; ///< way to serve several SIM cards, as the modem numbers it \range{0 to 255}
+    uint32_t state;   ///< state of that way, as the modem numbers it \range{0 to 255}
 };
 
 extern "C" {
@@ -23,11 +23,12 @@ extern "C" {
 /// \sent
 RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback callback);
 
-/// Sets from which level on the modem prefers to serve both SIM cards at the same time (DSDA).
+/// Sets from which level on the modem prefers to serve both SIM cards at the same time (DSDA). With rat 4 the
+/// modem counts in quarters: thresholds are sent multiplied by 4, and only -8192 to 8191 fit the 16 bits that are sent.
 ///
-/// @param rat      radio access technology as the modem numbers it, 4 or 7
-/// @param thresh1  the first threshold; with rat 4 it is sent multiplied by 4. 16 bits are sent
-/// @param thresh2  the second threshold, likewise
+/// @param rat      radio access technology, as the modem numbers it: 4 or 7 \range{4 to 7}; others are refused
+/// @param thresh1  first threshold \range{-32768 to 32767}; with rat 4 it is sent multiplied by 4
+/// @param thresh2  second threshold \range{-32768 to 32767}; with rat 4 it is sent multiplied by 4
 /// \verdict
 /// \sentor{2 for another rat}
 RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData,
@@ -35,7 +36,7 @@ RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, vo
 
 /// Sets how the modem is to serve several SIM cards.
 ///
-/// @param mode  as the modem numbers it
+/// @param mode  way to serve several SIM cards, as the modem numbers it
 /// \command
 /// \sent
 RADIO_API int radioSetMsimSubModePref(int mode, void* userData, RadioRequestCallback callback);
