@@ -4,51 +4,59 @@
 /// Carrier aggregation, bandwidth parts and dynamic spectrum sharing (3GPP TS 36.300, TS 38.300).
 #pragma once
 
+#include "radio_apis/rat.h"
 #include "radio_apis/result.h"
 
 #include <cstdint>
 
-/// Result of radioGetNrcaConfig and radioReadNRCAConfig.
+/// Result of radioGetNrcaConfig and radioReadNRCAConfig: whether carrier aggregation of NR is on.
 struct RadioNrcaConfig {
-    uint8_t nrcaState; ///< 0 off, 1 on; the low 8 bits of the modem's number
+    uint8_t nrcaState; ///< carrier aggregation \values{0: off, 1: on}; the low 8 bits of the modem's number
 };
 
-/// Result of radioGetBwpConfig.
+/// Result of radioGetBwpConfig: whether bandwidth parts of NR are on.
 struct RadioBwpConfig {
-    uint8_t bwpState; ///< 0 off, 1 on; the low 8 bits of the modem's number
+    uint8_t bwpState; ///< bandwidth parts \values{0: off, 1: on}; the low 8 bits of the modem's number
 };
 
-/// Result of radioGetCaStatus.
+/// Result of radioGetCaStatus: whether carrier aggregation is on.
 struct RadioCaStatus {
-    int32_t caStatus; ///< 0 off, 1 on
+    int32_t caStatus; ///< carrier aggregation \values{0: off, 1: on}
 };
 
-/// Result of radioReadDssConfig.
+/// Result of radioReadDssConfig: the band table of dynamic spectrum sharing.
 struct RadioDssConfig {
-    int32_t value; ///< as the modem defines it
+    int32_t value; ///< band table of dynamic spectrum sharing, as the modem defines it
+};
+
+/// Lists of the band combinations of NR, standalone (SA) or next to LTE (NSA).
+enum RadioBandCombinationList : int32_t {
+    RADIO_BAND_COMBINATIONS_WHITE_NSA = 2, ///< \label{white NSA}: the only ones that NSA may use
+    RADIO_BAND_COMBINATIONS_WHITE_SA = 4,  ///< \label{white SA}: the only ones that SA may use
+    RADIO_BAND_COMBINATIONS_BLACK_SA = 5   ///< \label{black SA}: those that SA may not use
 };
 
 extern "C" {
 
 /// Switches carrier aggregation.
 ///
-/// @param rat     4: LTE, 5: NR
-/// @param enable  on or off
+/// @param rat     radio access technology \values{RADIO_RAT_LTE, RADIO_RAT_NR}
+/// @param enable  whether it is on
 /// \command
 /// \sent{as for another rat}
 RADIO_API int radioSetCaStatus(int rat, bool enable, void* userData, RadioRequestCallback callback);
 
 /// Whether carrier aggregation is on.
 ///
-/// @param rat  4: LTE, 5: NR
+/// @param rat  radio access technology \values{RADIO_RAT_LTE, RADIO_RAT_NR}
 /// \asksnumber{caInfo}
 /// \sent{as for another rat}
 RADIO_API int radioGetCaStatus(int rat, void* userData, RadioRequestCallback callback);
 
 /// Switches carrier aggregation of NR.
 ///
-/// @param value    0 off, 1 on
-/// @param reserve  not sent
+/// @param value    whether it is on \values{0: off, 1: on}
+/// @param reserve  reserved \unused
 /// \command
 /// \sent
 RADIO_API int radioSetNrcaConfig(unsigned char value, unsigned char reserve, void* userData,
@@ -60,7 +68,7 @@ RADIO_API int radioSetNrcaConfig(unsigned char value, unsigned char reserve, voi
 /// \sent
 RADIO_API int radioGetNrcaConfig(void* userData, RadioRequestCallback callback);
 
-/// The same as radioGetNrcaConfig.
+/// Whether carrier aggregation of NR is on, the same as radioGetNrcaConfig.
 ///
 /// \asksnumber{nrcaConfig}
 /// \sent
@@ -68,8 +76,8 @@ RADIO_API int radioReadNRCAConfig(void* userData, RadioRequestCallback callback)
 
 /// Switches bandwidth parts of NR.
 ///
-/// @param value    0 off, 1 on
-/// @param reserve  not sent
+/// @param value    whether they are on \values{0: off, 1: on}
+/// @param reserve  reserved \unused
 /// \command
 /// \sent
 RADIO_API int radioSetBwpConfig(unsigned char value, unsigned char reserve, void* userData,
@@ -83,44 +91,45 @@ RADIO_API int radioGetBwpConfig(void* userData, RadioRequestCallback callback);
 
 /// Sets the only band combinations that standalone NR may use.
 ///
-/// @param list  the band combinations as the modem writes them, at most 236 bytes: with more the command is cut at
-///              its end without a word
+/// @param list  band combinations, as the modem writes them \range{0 to 236}; with more bytes the command is cut at its
+///              end without a word
 /// \command
 /// \sent{as for null, or a control character or double quote in the text}
 RADIO_API int radioSetWhiteSANRCAConfig(const char* list, void* userData, RadioRequestCallback callback);
 
 /// Sets the band combinations that standalone NR may not use.
 ///
-/// @param list  as for radioSetWhiteSANRCAConfig
+/// @param list  band combinations, as the modem writes them \range{0 to 236}; with more bytes the command is cut at its
+///              end without a word
 /// \command
 /// \sent{as for null, or a control character or double quote in the text}
 RADIO_API int radioSetBlackSANRCAConfig(const char* list, void* userData, RadioRequestCallback callback);
 
 /// Sets the only band combinations that NR next to LTE may use.
 ///
-/// @param list  as for radioSetWhiteSANRCAConfig
+/// @param list  band combinations, as the modem writes them \range{0 to 236}; with more bytes the command is cut at its
+///              end without a word
 /// \command
 /// \sent{as for null, or a control character or double quote in the text}
 RADIO_API int radioSetWhiteNSANRCAConfig(const char* list, void* userData, RadioRequestCallback callback);
 
-/// Empties one of the lists.
+/// Empties one of the lists of band combinations.
 ///
-/// @param list  2: the only ones next to LTE; 4: the only ones of standalone NR; 5: those it may not use. Any other
-///              number is sent, too
+/// @param list  list to be emptied \values{RadioBandCombinationList}; any other number is sent, too
 /// \command
 /// \sent
 RADIO_API int radioResetSANSAWhiteList(int list, void* userData, RadioRequestCallback callback);
 
 /// Sets the band table of dynamic spectrum sharing.
 ///
-/// @param value  as the modem defines it
+/// @param value  band table of dynamic spectrum sharing, as the modem defines it
 /// \command
 /// \sent
 RADIO_API int radioSetDssConfig(int value, void* userData, RadioRequestCallback callback);
 
 /// Sets what else the modem does about dynamic spectrum sharing.
 ///
-/// @param value  as the modem defines it
+/// @param value  additional control of dynamic spectrum sharing, as the modem defines it
 /// \command
 /// \sent
 RADIO_API int radioSetDssAdditionalConfig(int value, void* userData, RadioRequestCallback callback);
@@ -131,17 +140,21 @@ RADIO_API int radioSetDssAdditionalConfig(int value, void* userData, RadioReques
 /// \sent
 RADIO_API int radioReadDssConfig(void* userData, RadioRequestCallback callback);
 
-/// Sets the bands of user capabilities in 5G.
+/// Sets the bands of user capabilities in 5G. With more than 236 bytes in both texts together the command is cut at its
+/// end without a word.
 ///
-/// @param lteBands  as the modem writes them
-/// @param nrBands   likewise. Both together at most 236 bytes: with more the command is cut at its end without a word
+/// @param lteBands  bands of LTE, as the modem writes them \range{0 to 236}
+/// @param nrBands   bands of NR, as the modem writes them \range{0 to 236}
 /// \command
 /// \sent{as for null, or a control character or double quote in the text}
 RADIO_API int radioSetUst5gUCBandConfig(const char* lteBands, const char* nrBands, void* userData,
                                         RadioRequestCallback callback);
 
-/// Not supported.
+/// Sets user capabilities in 5G (not supported by the library).
 ///
+/// @param value1  first value \unused
+/// @param value2  second value \unused
+/// @param value3  third value \unused
 /// \unsupported
 RADIO_API int radioSetUst5gUCConfig(unsigned char value1, unsigned char value2, unsigned char value3,
                                     void* userData, RadioRequestCallback callback);
