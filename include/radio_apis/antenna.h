@@ -10,48 +10,49 @@
 
 inline constexpr unsigned kRadioMaxTxCarkitBytes = 512; ///< bytes of the longest answer
 
-/// Result of radioGetTxCarkit.
+/// Result of radioGetTxCarkit: the numbers of a band's transmitters.
 struct RadioTxCarkit {
-    uint32_t failure;                     ///< 1 when the modem reported a failure, otherwise 0
-    uint32_t length;                      ///< bytes of `data`; more are cut
-    uint8_t data[kRadioMaxTxCarkitBytes]; ///< the transmitters' numbers as the modem gives them
+    uint32_t failure;                     ///< whether the modem reported a failure, 1 or 0 \failure
+    uint32_t length;                      ///< number of bytes in `data`; more than 512 are cut
+    uint8_t data[kRadioMaxTxCarkitBytes]; ///< numbers, as the modem writes them \countedby{length}
 };
 
 extern "C" {
 
 /// Sets the state of the antenna optimisation logic.
 ///
-/// @param state  passed through
+/// @param state  state of the antenna optimisation logic, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetAolState(int state, void* userData, RadioRequestCallback callback);
 
 /// Switches the limit to the maximum transmit power level.
 ///
-/// @param state  passed through
+/// @param state  state of the limit, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetMtplLimitState(int state, void* userData, RadioRequestCallback callback);
 
 /// Fixes the antenna in use, or releases it.
 ///
-/// @param state  passed through
+/// @param state  whether the antenna is fixed, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetAntFixState(int state, void* userData, RadioRequestCallback callback);
 
 /// Blocks an antenna, or releases it.
 ///
-/// @param state  passed through
+/// @param state  whether an antenna is blocked, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetAntBlockState(int state, void* userData, RadioRequestCallback callback);
 
 /// Switches forced antenna selection for one radio access technology.
 ///
-/// @param rat    0 to 3, sent as a message; 4 (NR), sent as an AT command; others are refused
-/// @param state  as the modem defines it: for rats 0 to 3 the low 8 bits of `state` + 1 are sent, for rat 4 the
-///               number itself
+/// @param rat    radio access technology, as the modem numbers it \range{0 to 4} \values{4: NR}; for NR an AT command
+///               is sent, for the others a message
+/// @param state  state of forced antenna selection \values{0: off, 1: on}; others as the modem defines them. For NR the
+///               number itself is sent, for the others the low 8 bits of the number after it
 /// \user
 /// @param callback  for rats 0 to 3 called once with the modem's verdict and, on success, an empty record. For rat 4
 ///                  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with
@@ -62,9 +63,9 @@ RADIO_API int radioSetAntForceStateByRat(int rat, int state, void* userData, Rad
 
 /// Blocks a band for the transmit path search.
 ///
-/// @param rat   radio access technology, passed through
+/// @param rat   radio access technology, as the modem numbers it
 /// @param band  operating band
-/// @param mode  passed through
+/// @param mode  kind of block, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radiosetTxPathFilter(signed char rat, int band, int mode, void* userData,
@@ -72,11 +73,11 @@ RADIO_API int radiosetTxPathFilter(signed char rat, int band, int mode, void* us
 
 /// The numbers of the transmitters of a band, as a car kit's booster needs them.
 ///
-/// @param radioTech  radio access technology: 6 and 7 are one kind to the modem, 2 and 5 another, all others are
-///                   unknown to it
-/// @param uiBand     the band's number; its low 16 bits are sent
-/// @param subband    not sent
-/// @param option     not sent
+/// @param radioTech  radio access technology: 6 and 7 are one kind to the modem, 2 and 5 another; it does not know the
+///                   others
+/// @param uiBand     number of the band \range{0 to 65535}; the low 16 bits are sent
+/// @param subband    part of the band; not sent \unused
+/// @param option     reserved \unused
 /// \fills{txCarkit}
 /// \sent
 RADIO_API int radioGetTxCarkit(int radioTech, int uiBand, int subband, int option, void* userData,
@@ -84,7 +85,7 @@ RADIO_API int radioGetTxCarkit(int radioTech, int uiBand, int subband, int optio
 
 /// Chooses the scenario of the antenna optimisation logic.
 ///
-/// @param scenario  as the modem numbers it
+/// @param scenario  scenario, as the modem numbers it
 /// \command
 /// \sent
 RADIO_API int radioSetAolScenario(int scenario, void* userData, RadioRequestCallback callback);

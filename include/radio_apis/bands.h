@@ -16,67 +16,69 @@
 ///          n78 alone: 00 00 20 00 00 00 00 00 00 00 00 00 (bit 77).
 #pragma once
 
+#include "radio_apis/rat.h"
 #include "radio_apis/result.h"
 
 #include <cstdint>
 
-/// The radio access technology of a band request.
+/// Whose bands a request is about.
 enum RadioBandRat : int32_t {
-    RADIO_BAND_GSM = 0,
-    RADIO_BAND_UMTS = 1,
-    RADIO_BAND_CDMA = 3,
-    RADIO_BAND_LTE = 4,
-    RADIO_BAND_NR = 5,       ///< the first of the modem's two lists for NR
-    RADIO_BAND_NR_SECOND = 6 ///< the second one
+    RADIO_BAND_GSM = 0,      ///< bands of \label{GSM}
+    RADIO_BAND_UMTS = 1,     ///< bands of \label{UMTS}
+    RADIO_BAND_CDMA = 3,     ///< band classes of \label{CDMA}
+    RADIO_BAND_LTE = 4,      ///< bands of \label{LTE}
+    RADIO_BAND_NR = 5,       ///< \label{NR}, the first of the modem's two lists of its bands
+    RADIO_BAND_NR_SECOND = 6 ///< \label{NR second}, the second of the modem's two lists of the bands of NR
 };
 
 /// Added to a RadioBandRat: the bands in use instead of those that could be.
 inline constexpr int32_t kRadioCurrentBands = 0x10000;
 
-inline constexpr unsigned kRadioMaxBandBytes = 256; ///< that an answer holds
+inline constexpr unsigned kRadioMaxBandBytes = 256; ///< bytes of bands in one answer
 
-/// Result of radioGetBandPrefer.
+/// Result of radioGetBandPrefer: the bands of one radio access technology.
 struct RadioBandPrefer {
-    int32_t rat;     ///< a RadioBandRat
-    int32_t current; ///< 1: the bands in use were asked for; 0: those that could be. For CDMA
-                     ///< `bands` is those in use with both
-    uint32_t length; ///< bytes of `bands` that count
-    uint8_t bands[kRadioMaxBandBytes]; ///< as the head of this file tells
+    int32_t rat; ///< radio access technology \values{RadioBandRat}
+    /// which bands were asked for \values{0: possible, 1: in use}; of CDMA `bands` is those in use with both
+    int32_t current;
+    uint32_t length;                   ///< number of bytes in `bands`
+    uint8_t bands[kRadioMaxBandBytes]; ///< bands, as the head of bands.h explains them \countedby{length}
 };
 
-inline constexpr unsigned kRadioMaxLteBandWords = 16; ///< words of 32 LTE bands
+inline constexpr unsigned kRadioMaxLteBandWords = 16; ///< words of 32 LTE bands in one answer
 
-/// Result of radioGetAvailableBandModes. The masks have the bits that the head of this file tells.
+/// Result of radioGetAvailableBandModes: masks of bands, whose bits the head of bands.h tells.
 struct RadioBandModes {
-    uint32_t gsm;                        ///< the bands of GSM
-    uint32_t umts;                       ///< the bands of UMTS
-    uint32_t lteWords;                   ///< words of `lte` that count
-    uint32_t lte[kRadioMaxLteBandWords]; ///< the bands of LTE, the lowest ones first
+    uint32_t gsm;                        ///< mask of GSM: bits 1, 3, 4, 7 are bands 900, 1800, 1900, 850
+    uint32_t umts;                       ///< mask of UMTS: bit n-1 stands for band n
+    uint32_t lteWords;                   ///< number of words in `lte`
+    uint32_t lte[kRadioMaxLteBandWords]; ///< masks of LTE, 32 bands each, lowest first \countedby{lteWords}
 };
 
-/// Result of radioGetBand. For LTE and NR bit n-1 stands for band n; for the others bits are those of user
-/// interfaces: GSM 850, 900, 1800 and 1900 are bits 19, 8, 7 and 21; UMTS bands 1, 2, 4, 5, 8, 9 and 19 are
+/// Result of radioGetBand: a mask of bands. For LTE and NR bit n-1 stands for band n; for the others bits are those of
+/// user interfaces: GSM 850, 900, 1800 and 1900 are bits 19, 8, 7 and 21; UMTS bands 1, 2, 4, 5, 8, 9 and 19 are
 /// bits 22, 23, 25, 26, 49, 50 and 60; CDMA band class 0 is bit 1. Bands without a bit are not told.
 struct RadioBandInfo {
-    int32_t nwType; ///< as requested
-    uint64_t low;   ///< bits 0 to 63
-    uint64_t high;  ///< bits 64 to 127
+    int32_t nwType; ///< radio access technology, as requested \values{RadioRat}
+    uint64_t low;   ///< bits 0 to 63 of the mask of bands
+    uint64_t high;  ///< bits 64 to 127 of the mask of bands
 };
 
-/// Result of radioGetBandsTxNum.
+/// Result of radioGetBandsTxNum: the transmit paths of a band.
 struct RadioBandTxNum {
     int32_t bandTxNum; ///< number of transmit paths
 };
 
 extern "C" {
 
-/// Sets the bands that the modem may use with one radio access technology.
+/// Sets the bands that the modem may use with one radio access technology. The command has room for `length` + 127
+/// characters and is cut there without a word: RADIO_BAND_NR survives up to 112 bytes, RADIO_BAND_NR_SECOND up to 108,
+/// LTE up to 64 and, when its numbers are small, beyond.
 ///
-/// @param rat     a RadioBandRat; only its low 16 bits count
-/// @param bands   bytes as the head of this file tells; of GSM, UMTS and CDMA the first four count
-/// @param length  bytes, a multiple of 4 from 4 to 65404. The command has room for `length` + 127 characters and is
-///                cut there without a word: RADIO_BAND_NR survives up to 112 bytes, RADIO_BAND_NR_SECOND up to 108,
-///                LTE up to 64 and, when its numbers are small, beyond
+/// @param rat     radio access technology \values{RadioBandRat}; only its low 16 bits count
+/// @param bands   bands as bytes, which the head of bands.h explains \range{4 to 65404, multiple of 4}
+///                \countedby{length}; of GSM, UMTS and CDMA the first four count
+/// @param length  number of bytes
 /// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the bands, else with
 ///                  RADIO_APIS_FAILURE, each with an empty record; or with the modem's failure and no record
@@ -85,10 +87,10 @@ extern "C" {
 RADIO_API int radioSetBandPrefer(int rat, const unsigned char* bands, unsigned int length, void* userData,
                                  RadioRequestCallback callback);
 
-/// The bands of one radio access technology.
+/// The bands of one radio access technology: those in use, or those that could be.
 ///
-/// @param rat  a RadioBandRat, with kRadioCurrentBands added for the bands in use. Of CDMA the modem tells only
-///             those: they come without the flag, too, and then with a `current` of 0
+/// @param rat  radio access technology \values{RadioBandRat}; kRadioCurrentBands added asks for the bands in use. Of
+///             CDMA the modem tells only those: they come without the flag, too, and then with a `current` of 0
 /// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS and \answer{bandPrefer}; with RADIO_APIS_FAILURE and a record
 ///                  without bands when the answer has none that can be read; or with the modem's failure and no
@@ -96,17 +98,16 @@ RADIO_API int radioSetBandPrefer(int rat, const unsigned char* bands, unsigned i
 /// \sent{as for another rat}
 RADIO_API int radioGetBandPrefer(int rat, void* userData, RadioRequestCallback callback);
 
-/// The bands in use with GSM, UMTS and LTE.
+/// The masks of the bands in use with GSM, UMTS and LTE.
 ///
 /// \asks{bandModes, the answer lacks the masks of GSM and UMTS or has something else than numbers}
 /// \sent
 RADIO_API int radioGetAvailableBandModes(void* userData, RadioRequestCallback callback);
 
-/// The bands that the modem could use with one radio access technology, in the bits of user interfaces; for CDMA
-/// those in use. CDMA's side of the modem may be off, and is first switched on: world mode policy 0, then CDMA as
-/// the active technology. It stays on.
+/// The bands that the modem could use, in the bits of user interfaces; of CDMA those in use. CDMA's side of the modem
+/// may be off, and is first switched on: world mode policy 0, then CDMA as the active technology. It stays on.
 ///
-/// @param nwType  RADIO_BAND_GSM, _UMTS, _CDMA, _LTE or _NR
+/// @param nwType  radio access technology \range{0 to 5} \values{RadioRat}
 /// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS and \answer{bandInfo}; with RADIO_APIS_FAILURE and a zeroed
 ///                  record when the answer can't be read or, for CDMA, a step failed; or, but for CDMA, with the
@@ -117,9 +118,9 @@ RADIO_API int radioGetBand(int nwType, void* userData, RadioRequestCallback call
 
 /// How many transmit paths a band has. Takes two commands, of which the second one asks.
 ///
-/// @param radioTech  radio access technology, as the modem numbers them
-/// @param uiBand     the band
-/// @param subband    part of the band; logged, since the modem's answer is for the whole band
+/// @param radioTech  radio access technology, as the modem numbers it
+/// @param uiBand     number of the band
+/// @param subband    part of the band; only logged, since the modem's answer is for the whole band \unused
 /// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS and \answer{bandTxNumInfo}, or with RADIO_APIS_FAILURE and a
 ///                  zeroed record when the modem refused or the answer does not end in a number

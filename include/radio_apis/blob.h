@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
-/// `length` bytes of `data` were carried; more than `capacity` are cut.
+/// Bytes that the modem defines; more than `capacity` are cut.
 template <uint32_t capacity>
 struct RadioBlob {
-    uint32_t length;        ///< bytes of `data` that count
-    uint8_t data[capacity]; ///< the bytes
+    uint32_t length;        ///< number of bytes in `data`
+    uint8_t data[capacity]; ///< the bytes, as the modem defines them \countedby{length}
 };
