@@ -64,6 +64,8 @@ json Modem::control(const json& command, TimePoint now)
             name.fail("unknown command");
         }
         known->run(*this, arguments, now, answer);
+    } catch (const UnknownName& error) {
+        answer = {{"ok", false}, {"error", error.what()}, {"known", error.known()}};
     } catch (const std::exception& error) {
         answer = {{"ok", false}, {"error", error.what()}};
     }

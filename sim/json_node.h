@@ -48,7 +48,11 @@ public:
 
     [[noreturn]] void fail(const std::string& reason) const;
 
+    /// Throws UnknownName.
+    [[noreturn]] void failUnknown(const std::string& reason, std::vector<std::string> known) const;
+
 private:
+    std::string complaint(const std::string& reason) const;
     int64_t integer(int64_t min, int64_t max) const;
     void requireObject() const;
 

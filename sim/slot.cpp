@@ -13,12 +13,8 @@ constexpr uint32_t kMaxModeChange = 60'000; // milliseconds
 void applySettings(const JsonNode& node, StoredSettings& settings)
 {
     for (JsonNode item : node.items(kMaxListed)) {
-        const JsonNode message = item.member("message");
-        const MessageSpec* spec = Protocol::instance().find(message.text());
-        if (spec == nullptr || spec->kind != MessageKind::Request) {
-            message.fail("unknown request");
-        }
-        settings.store(*spec, fieldsFromJson(item.member("fields"), spec->request));
+        const MessageSpec& spec = requestFromJson(item.member("message"));
+        settings.store(spec, fieldsFromJson(item.member("fields"), spec.request));
         item.finish();
     }
 }

@@ -65,7 +65,8 @@ public:
     void forget(ClientId client);
 
     /// A command to the simulation itself, not to the modem. The answer holds "ok", and "error" when that is
-    /// false.
+    /// false; when the error is a name of a message or a fault's action that does not exist, also "known", the list
+    /// of those that do.
     ///   {"command": "state"}                         adds "slots": what each slot of the modem is like
     ///   {"command": "fault-add", "fault": FAULT}     a fault as scenarios write it
     ///   {"command": "fault-clear"}
