@@ -14,19 +14,35 @@ namespace {
 /// `name  meaning (form)`, with the text behind a column.
 std::string described(size_t indent, std::string_view name, std::string_view text, const std::string& form)
 {
+    const std::string behind = form.empty() ? "" : fmt::format(" ({})", form);
     constexpr size_t kColumn = 18;
     const std::string front =
         fmt::format("{:{}}{:<{}} ", "", indent, name, kColumn - std::min(indent, size_t{8}));
-    return wrapped(fmt::format("{}{} ({})", front, text, form), front.size()) + '\n';
+    return wrapped(fmt::format("{}{}{}", front, text, behind), front.size()) + '\n';
 }
 
-std::string membersHelp(const Record& record, size_t indent)
+/// What an answer's numbers mean; their types' ranges go without saying.
+std::string answerForm(const Member& member)
+{
+    const Meaning& meaning = member.meaning;
+    if (!meaning.values.empty()) {
+        std::vector<std::string> names;
+        std::ranges::transform(meaning.values, std::back_inserter(names), [](const Value& value) {
+            return fmt::format("{} {}", value.value, value.name);
+        });
+        return fmt::format("{}", fmt::join(names, ", "));
+    }
+    const bool hasLimits = member.lengths[0] != 0 || meaning.range;
+    return hasLimits && member.record == nullptr ? formOf(member) : std::string(meaning.unit);
+}
+
+std::string membersHelp(const Record& record, size_t indent, std::string (*form)(const Member&))
 {
     std::string text;
     for (const Member& member : record.members) {
         if (!member.meaning.isUnused) {
-            text += described(indent, member.meaning.name, member.meaning.text, formOf(member));
-            text += member.record != nullptr ? membersHelp(*member.record, indent + 2) : "";
+            text += described(indent, member.meaning.name, member.meaning.text, form(member));
+            text += member.record != nullptr ? membersHelp(*member.record, indent + 2, form) : "";
         }
     }
     return text;
@@ -37,7 +53,7 @@ std::string argumentsHelp(const Request& request)
     std::string text;
     for (const Argument& argument : request.arguments) {
         text += described(2, argument.meaning.name, argument.meaning.text, formOf(argument));
-        text += argument.record != nullptr ? membersHelp(*argument.record, 4) : "";
+        text += argument.record != nullptr ? membersHelp(*argument.record, 4, formOf) : "";
     }
     return text;
 }
@@ -197,7 +213,8 @@ std::string helpOf(const Request& request, const std::string& usage, const std::
         text += "\nArguments:\n" + argumentsHelp(request) + moreArguments;
     }
     if (request.answer != nullptr) {
-        text += fmt::format("\nAnswer ({}):\n", request.answer->name) + membersHelp(*request.answer, 2);
+        text += fmt::format("\nAnswer ({}):\n", request.answer->name) +
+                membersHelp(*request.answer, 2, answerForm);
     }
     text += fmt::format("\nFunction: {} (radio_apis/{}.h)\n", request.function, request.domain->name);
     return text + fmt::format("Example:  radioctl {}\n", exampleOf(request));

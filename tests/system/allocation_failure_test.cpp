@@ -6,9 +6,9 @@
 ///   allocation_failure_test all [NAME...]              all cases, or those of these names
 ///   allocation_failure_test one NAME THREAD N [later]  one case in this process, for a debugger: break on _exit
 #include "embedded_link.h"
-#include "links.h"
 #include "interface/text.h"
 #include "interface/words.h"
+#include "links.h"
 #include "radioctl/program.h"
 #include "support/failing_memory.h"
 #include "system/examples.h"
@@ -16,6 +16,8 @@
 #include "mindroid/promise.h"
 #include "radio/indications.h"
 #include "vs/indications.h"
+
+#include <fmt/format.h>
 
 #include <condition_variable>
 #include <cstring>

@@ -94,11 +94,11 @@ TEST(Radioctl, TellsWhatItCan)
         {"sim", "", 0, "sim indicate NAME"},
         {"watch --help", "", 0, "--log"},
         {"help get-rrc-status", "", 0, "Function: radioGetRRCStatus (radio_apis/cell_info.h)"},
-        {"get-serving-cellular-cell-info --help", "", 0, "0 to 4294967295"},
+        {"get-serving-cellular-cell-info --help", "", 0, "radio access technology (4 LTE, 5 NR)"},
         {"set-ca-status --help", "", 0, "Example:  radioctl set-ca-status lte on"},
-        {"write-nv --help", "", 0, "at most 20480 bytes"},
+        {"write-nv --help", "", 0, "(at most 20480"},
         {"set-carrier-lock-blob --help", "", 0, "1 to 2048 bytes"},
-        {"set-sido-issue-config --help", "", 0, "at most 20 numbers"},
+        {"set-sido-issue-config --help", "", 0, "(at most 20\n"},
         {"set-atom-status --help", "", 0, "set-atom-status id status subPolicy [MEMBER=VALUE...]\n"},
         {"set-band-prefer --help", "", 0, "set-band-prefer RAT --bands LIST | RAT HEX\n"},
         {"set-modem-indication-policy --help", "", 0, "(0 to 4294967295 ms)"},
@@ -124,11 +124,12 @@ TEST(Radioctl, ExplainsAnswers)
         {"get-serving-cellular-cell-info", "", 0, "rat            NR (5)\nPLMN           001/01\n"},
         {"get-serving-cellular-cell-info", "", 0, "rsrp           -85 dBm\n"},
         {"get-serving-cellular-cell-info --raw", "", 0, "\nrsrp           -85\n"},
-        {"get-all-cellular-cell-info", "", 0, "\nneighbours (5)\n"},
+        {"get-all-cellular-cell-info", "", 0, "\nneighbours (6)\n"},
         {"get-rrc-status --json --explain", "", 0,
          R"("record":{"status":2},"explained":{"status":{"name":"connected"}}})"},
-        {"batch -", "set-qrxlvmin-cfg option=lte q1=-120\nget-qrxlvmin-cfg lte\n", 0, "rat     LTE (13)\n"},
-        {"get-sim-tray-status --trace --log debug", "", 0, "VornVsClient"},
+        {"batch -", "set-qrxlvmin-cfg option=lte-levels q1=-120\nget-qrxlvmin-cfg lte\n", 0,
+         "rat     LTE (13)\n"},
+        {"get-sim-tray-status --trace --log-level debug", "", 0, "VornVsClient"},
     });
     const json cells = answerOf("get-all-cellular-cell-info").at("record");
     EXPECT_LT(cells.at("serving").at("rsrp").get<int>(), -40);
@@ -151,7 +152,7 @@ TEST(Radioctl, AnswersJsonWhateverHappens)
         {"read-nv 424242 0", "failed", "the modem reported a failure; the modem said: result "},
         {"--device unix:/no/such get-rrc-status", "unreachable", "/no/such"},
         {"--device embedded:/no/such.json get-rrc-status", "unreachable", "/no/such.json"},
-        {"sim indicate tset --value 7", "failed", "did you mean 'TestInd'?"},
+        {"sim indicate tset --value 7", "failed", "did you mean 'test'?"},
         {"--timeout 50 batch -", "timeout", "no answer within 50 ms"},
     };
     for (const auto& row : rows) {
@@ -172,10 +173,10 @@ TEST(Radioctl, PutsEarlierAnswersIntoLaterLines)
                              "cell = get-all-cellular-cell-info\n"
                              "write-nv 7 0 ${cell.neighbours[0].pci}$cell.serving.rat'55' # six digits\n"
                              "nv = read-nv 7 0\n"
-                             "load-atom-application strings='[\"$nv\",'$cell.neighbours[5].rat']'\n");
+                             "load-atom-application strings='[\"$nv\",'$cell.neighbours[6].rat']'\n");
     EXPECT_EQ(run.status, 2); // the last line's list holds a number
     EXPECT_THAT(run.output, HasSubstr(R"("data":"102555")"));
-    EXPECT_THAT(run.output, HasSubstr("there is no element 5 in"));
+    EXPECT_THAT(run.output, HasSubstr("there is no element 6 in"));
 }
 
 TEST(Radioctl, RunsBatchesThatTest)
@@ -198,7 +199,7 @@ TEST(Radioctl, RunsBatchesThatTest)
         {"batch -", "get-rrc-status --raw\n--json get-rrc-status\nlist\nsim state\n", 0,
          "status  2\n{\"request\""},
         {"batch -", "get-rrc-status --device embedded\n", 2,
-         "--device, --trace and --log hold for the whole batch"},
+         "--device, --trace and --log-level hold for the whole batch"},
         {"batch -",
          "set-sar-dsi-state 3\n--instance 1 get-sar-dsi-state\nexpect state = 0\n"
          "get-sar-dsi-state\nexpect state = 3\n",
@@ -232,7 +233,7 @@ TEST(Radioctl, WatchesCells)
     const std::string table = contentsOf(log);
     EXPECT_THAT(table, testing::StartsWith("time,part,failure,rat,mcc,"));
     EXPECT_EQ(std::ranges::count(table, '\n'),
-              1 + 2 * 7); // two answers with a serving cell, five others and a count
+              1 + 2 * 8); // two answers: a count, the serving cell and six others
     std::remove(log.c_str());
     EXPECT_TRUE(json::parse(radioctl("watch get-rrc-status --json --count 1").output).contains("time"));
 }
@@ -267,7 +268,10 @@ TEST(Radioctl, CompletesAndDescribesItself)
     const std::pair<const char*, const char*> rows[] = {
         {"--device x set-ca-st", "set-ca-status\n"},
         {"--json set-ca-status lte ''", "on off\n"},
-        {"events test ''", "\n"},
+        {"events te", "test\n"},
+        {"--device e", "embedded embedded:\n"},
+        {"watch --ev", "--every\n"},
+        {"sim fault-c", "fault-clear\n"},
         {"watch get-lte-c", "get-lte-cell-info\n"},
         {"--js", "--json\n"},
     };
@@ -334,7 +338,7 @@ TEST(Radioctl, TellsWhatWentWrong)
         {"set-sido-issue-config 1,2,3,4,5,6,7,8,9,10,1,2,3,4,5,6,7,8,9,20,21", "", 2,
          "at most 20 are allowed"},
         {"send-rf-icc-mode-state 1 2 3 256", "", 2, "mode4: '256' is not a number from 0 to 255"},
-        {"set-ant-force-state-by-rat 5 1", "", 2, "rat: '5' is not a number from 0 to 4"},
+        {"set-ant-force-state-by-rat 5 1", "", 2, "rat: '5' is none of nr or a number from 0 to 4"},
         {"set-band-prefer 5g --bands 1", "", 2, "rat: '5g' is none of gsm, umts"},
         {"get-band-prefer lte --current extra", "", 2, "'extra' is one argument too many"},
         {"write-nv 1 0 @/tmp", "", 2, "data: /tmp is a directory, not a file"},
@@ -374,14 +378,14 @@ TEST(Radioctl, TellsWhatWentWrong)
         {"set-modem-indication-policy 'policies=[{\"text1\":\"1234567890\"}]'", "", 2,
          "policies.policies[0].text1: 10 characters, at most 9 are allowed"},
         {"send-rf-icc-device-err data=" + std::string(66, '0'), "", 2, "error.data: 33 bytes, at most 32"},
-        {"clear-forbidden-tai 0 1 1 2 1 1", "", 2, "mncThreeDigits: '2' is not a number from 0 to 1"},
+        {"clear-forbidden-tai 0 1 1 2 1 1", "", 2, "mncThreeDigits: '2' is none of on, off"},
         {"set-idc-offset 4 0 7", "", 2, "configs: '7' is not"},
         {"set-idc-offset 4 0 '[{\"f4\":1}]'", "", 2, "configs[0] has no member 'f4'; it has f0, f1, f2, f3"},
         {"request-icc-sim-authentication data=" + std::string(514, '0'), "", 2, "257 bytes, at most 256"},
         {"set-dsda-prefer-cust-thresh 5 1 2", "", 1, "refused by the library: not supported (2)"},
         {"set-oos-cfg option=6", "", 1, "refused by the library: reason unknown (1)"},
         {"set-ca-status 6 on", "", 1, "refused by the library: reason unknown (1)"},
-        {"set-ca-status lte 1", "", 2, "enable: '1' is none of on, off"},
+        {"set-ca-status lte 2", "", 2, "enable: '2' is none of on, off"},
         {"get-ca-status 5g", "", 2, "rat: '5g' is none of lte, nr or a number"},
         {"set-carrier-omacp-fqdn 'a\"b'", "", 1, "refused by the library: reason unknown (1)"},
         {"set-carrier-omacp-fqdn " + std::string(225, 'f'), "", 2, "225 characters, at most 224 are allowed"},

@@ -314,7 +314,7 @@ private:
         if (options.device != mLine.options.device || options.trace != mLine.options.trace ||
             options.log != mLine.options.log) {
             throw UsageError(
-                "--device, --trace and --log hold for the whole batch: give them to batch itself");
+                "--device, --trace and --log-level hold for the whole batch: give them to batch itself");
         }
         return mProgram.runChecked({std::move(words), options});
     }

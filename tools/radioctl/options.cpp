@@ -36,7 +36,7 @@ void addOptions(CLI::App& app, Options& options)
     app.add_flag("--explain", options.explain, "with --json: add units and the names of values");
     app.add_flag("--raw", options.raw, "print numbers alone, without units and names");
     app.add_flag("--trace", options.trace, "show every message on standard error");
-    app.add_option("--log", options.log, "show the library's log lines from this level on")
+    app.add_option("--log-level", options.log, "show the library's log lines from this level on")
         ->type_name("LEVEL")
         ->check(CLI::IsMember({"debug", "warn", "error", "off"}));
     app.add_flag("--version", options.version, "tell the version");

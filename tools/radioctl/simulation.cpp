@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cctype>
 #include <charconv>
 #include <fstream>
 
@@ -124,14 +125,30 @@ Json ask(const Json& command)
     return answer;
 }
 
+/// TestInd may be called test.
+std::string plainName(const std::string& indication)
+{
+    std::string name;
+    for (const char c : indication.substr(0, indication.rfind("Ind"))) {
+        const bool isCapital = std::isupper(static_cast<unsigned char>(c)) != 0;
+        name += isCapital && !name.empty() ? "-" : "";
+        name += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    }
+    return name;
+}
+
 /// What it refused, with the name that was perhaps meant.
 std::string refusal(const Json& command, const Json& answer)
 {
     std::string text = fmt::format("sim: {}", answer.value("error", "refused"));
-    if (answer.contains("known") && command.contains("message")) {
-        const auto known = answer["known"].get<std::vector<std::string>>();
-        text += interface::suggestion(command["message"].get<std::string>(),
-                                      std::vector<std::string_view>(known.begin(), known.end()));
+    if (answer.contains("known")) {
+        auto known = answer["known"].get<Words>();
+        if (command.contains("message")) {
+            std::ranges::transform(known, known.begin(), plainName);
+        }
+        const Json& fault = command.contains("fault") ? command["fault"] : command;
+        const std::string given = fault.value("message", fault.value("action", ""));
+        text += interface::suggestion(given, std::vector<std::string_view>(known.begin(), known.end()));
     }
     return text;
 }
