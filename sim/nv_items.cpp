@@ -2,8 +2,10 @@
 
 #include "zor/log.h"
 
+#include <cerrno>
 #include <fstream>
 #include <string>
+#include <system_error>
 #include <unistd.h>
 
 namespace sim {
@@ -56,7 +58,7 @@ std::optional<NvOfSlots> readNvFile(const std::filesystem::path& file)
     }
     std::ifstream stream(file);
     if (!stream) {
-        throw ScenarioError(file.string() + ": can't be read");
+        throw ScenarioError(file.string() + ": can't be read: " + std::generic_category().message(errno));
     }
     try {
         const json contents = json::parse(stream);

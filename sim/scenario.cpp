@@ -4,8 +4,10 @@
 #include "scenario_data.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <sstream>
+#include <system_error>
 
 namespace sim {
 namespace {
@@ -106,10 +108,11 @@ Scenario Scenario::fromJson(const nlohmann::json& json)
 
 Scenario Scenario::fromFile(const std::filesystem::path& file)
 {
+    errno = 0;
     std::ifstream stream(file);
     std::ostringstream text;
-    if (!stream || !(text << stream.rdbuf())) {
-        throw ScenarioError(file.string() + ": can't be read");
+    if (!(text << stream.rdbuf()) && errno != 0) { // an empty file is no error of reading
+        throw ScenarioError(file.string() + ": can't be read: " + std::generic_category().message(errno));
     }
     try {
         auto contents = nlohmann::json::parse(text.str());

@@ -19,11 +19,12 @@ TEST(Vorn, opensWhatTheDeviceNameStandsFor)
     const std::tuple<const char*, const char*, const char*> rows[] = {
         // name, environment, what the error names
         {"embedded", "", ""},
-        {"embedded:/no/such/file.json", "", "/no/such/file.json"},
+        {"embedded:/no/such/file.json", "", "/no/such/file.json: can't be read: No such file"},
         {"/dev/ttyS0", "embedded", ""},
         {"embedded", "/dev/ttyS0", "/dev/ttyS0"},
-        {"unix:/tmp/modem", "", "unix:/tmp/modem"},
-        {"embeddedness", "", "embeddedness"},
+        {"unix:/tmp/modem", "", "modem-sim --listen unix:/tmp/modem starts one"},
+        {"embeddedness", "", "\"embeddedness\": a workstation has none but"},
+        {"unix:", "", "choose one with RADIO_VORN_DEVICE"},
         {nullptr, "", "\"\""},
     };
     std::string log;

@@ -1,8 +1,10 @@
 #include "cutils/properties.h"
 #include "host/device.h"
+#include "zor/log.h"
 #include "zor/property.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
@@ -31,7 +33,13 @@ bool findInFile(std::string_view key, std::string& value)
     if (root.empty()) {
         return false;
     }
-    std::ifstream file(root + "/default.prop");
+    const std::string path = root + "/default.prop";
+    std::ifstream file(path);
+    static std::atomic<bool> hasTold = false;
+    if (!file && !hasTold.exchange(true)) {
+        // Without it the device has no modem channel, which is all that the library can tell.
+        zorLogE("properties", "RADIO_DEVICE_ROOT: %s can't be read", path.c_str());
+    }
     for (std::string line; std::getline(file, line);) {
         const size_t begin = line.find_first_not_of(" \t");
         const size_t equals = line.find('=');

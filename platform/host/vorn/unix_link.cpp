@@ -2,6 +2,7 @@
 
 #include "zor/log.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <set>
 #include <unistd.h>
@@ -70,7 +71,8 @@ void UnixLink::open(std::chrono::milliseconds patience)
     const auto limit = std::chrono::steady_clock::now() + patience;
     while (!tryToOpen()) {
         if (std::chrono::steady_clock::now() >= limit) {
-            throw LinkError("the modem at unix:" + mPath + " takes no connection");
+            throw LinkError("the modem at unix:" + mPath +
+                            " takes no connection: it is stopped, or serves too many programs");
         }
         std::this_thread::sleep_for(kBusyRetry);
     }
@@ -90,7 +92,10 @@ bool UnixLink::tryToOpen()
             return false;
         }
     } catch (const asio::system_error& error) {
-        throw LinkError("no modem at unix:" + mPath + ": " + error.code().message());
+        const int reason = error.code().value();
+        const bool isAway = reason == ENOENT || reason == ECONNREFUSED;
+        throw LinkError("no modem at unix:" + mPath + ": " + error.code().message() +
+                        (isAway ? "; modem-sim --listen unix:" + mPath + " starts one" : ""));
     }
     try {
         start(std::move(socket));

@@ -1,4 +1,5 @@
-/// Where the host's log lines go: to standard error, or to a test that looks at them.
+/// Where the host's log lines go: to standard error, or to a test or a tool that looks at them. When the modem can't
+/// be reached, the first line of priority 6 says why.
 #pragma once
 
 #include <functional>
