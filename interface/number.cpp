@@ -119,16 +119,6 @@ std::optional<Number> numberIn(const Meaning& meaning, Type type, const Json& in
     return in.is_number_integer() ? toNumber(in.dump()) : std::nullopt;
 }
 
-std::vector<std::string> words(const Meaning& meaning, Type type)
-{
-    std::vector<std::string> all;
-    std::ranges::transform(meaning.values, std::back_inserter(all), wordOf);
-    if (type == Type::Bool) {
-        all = {"on", "off"};
-    }
-    return all;
-}
-
 } // namespace
 
 size_t sizeOf(Type type)
@@ -190,11 +180,21 @@ uint64_t parseNumber(const std::string& where, const Meaning& meaning, Type type
         return number->bits;
     }
     const std::string given = in.is_string() ? in.get<std::string>() : in.dump();
-    const auto names = words(meaning, type);
+    const auto names = valueWords(meaning, type);
     throw ArgumentError(
         fmt::format("{}: '{}' is {} {}{}", where, given, names.empty() ? "not a number from" : "none of",
                     numberForm(meaning, type),
                     suggestion(given, std::vector<std::string_view>(names.begin(), names.end()))));
+}
+
+std::vector<std::string> valueWords(const Meaning& meaning, Type type)
+{
+    std::vector<std::string> all;
+    std::ranges::transform(meaning.values, std::back_inserter(all), wordOf);
+    if (type == Type::Bool) {
+        all = {"on", "off"};
+    }
+    return all;
 }
 
 Meaning elementOf(Meaning list)
@@ -205,7 +205,7 @@ Meaning elementOf(Meaning list)
 
 std::string numberForm(const Meaning& meaning, Type type)
 {
-    const auto names = words(meaning, type);
+    const auto names = valueWords(meaning, type);
     const Limits limits = limitsOf(meaning, type);
     const std::string unit = meaning.unit.empty() ? "" : fmt::format(" {}", meaning.unit);
     const std::string range = fmt::format("{} to {}{}", limits.lowest.text(), limits.highest.text(), unit);

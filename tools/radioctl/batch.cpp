@@ -96,31 +96,6 @@ private:
     size_t mLine = 0;
 };
 
-/// Rewrites one line of standard error.
-class Progress {
-public:
-    explicit Progress(bool isShown, size_t lines) : mIsShown(isShown), mLines(lines) {}
-    ~Progress() { show(""); }
-    Progress(const Progress&) = delete;
-    Progress& operator=(const Progress&) = delete;
-
-    void show(const std::string& text) const
-    {
-        if (mIsShown) {
-            // The cursor goes back, so that a message takes the line's place.
-            fmt::print(stderr, "\r\033[K{}\r", text);
-        }
-    }
-    void show(size_t line, const std::string& command) const
-    {
-        show(fmt::format("{}/{} {}", line, mLines, command));
-    }
-
-private:
-    bool mIsShown;
-    size_t mLines;
-};
-
 std::optional<int64_t> toNumber(const std::string& word)
 {
     int64_t number = 0;
@@ -205,13 +180,14 @@ public:
         : mProgram(program), mLine(line), mOptions(options), mReport(options.file)
     {}
 
-    int run(std::istream& input, const Progress& progress)
+    /// With the number of lines, a line on standard error tells how far it is.
+    int run(std::istream& input, size_t lines)
     {
         Steps steps(input);
         int first = kExitSuccess;
         try {
             while (const auto step = steps.next()) {
-                progress.show(step->number, step->text);
+                showProgress(step->number, lines, step->text);
                 const int status = runStep(*step);
                 first = first == kExitSuccess ? status : first;
                 if (mIsStopped) {
@@ -222,6 +198,7 @@ public:
             printError("batch", "usage", error.what(), mLine.options);
             first = kExitUsage;
         }
+        showProgress(0, lines, "");
         if (!mOptions.junit.empty()) {
             mReport.write(mOptions.junit);
         }
@@ -229,6 +206,15 @@ public:
     }
 
 private:
+    /// The cursor goes back, so that a message takes the line's place.
+    static void showProgress(size_t line, size_t lines, const std::string& text)
+    {
+        if (lines != 0) {
+            fmt::print(stderr, "\r\033[K{}\r",
+                       text.empty() ? "" : fmt::format("{}/{} {}", line, lines, text));
+        }
+    }
+
     int runStep(const Step& step)
     {
         if (isInterrupted()) {
@@ -368,10 +354,7 @@ size_t countLines(std::istream& input)
 
 std::vector<OptionText> batchOptions()
 {
-    CLI::App app;
-    BatchOptions options;
-    addBatchOptions(app, options);
-    return optionTexts(app);
+    return optionTexts(addBatchOptions);
 }
 
 int runBatch(Program& program, const Line& line)
@@ -396,8 +379,8 @@ int runBatch(Program& program, const Line& line)
     ++program.depth;
     // Where the answers go to the terminal they tell enough.
     const bool showsProgress = isFile && isatty(STDERR_FILENO) != 0 && isatty(STDOUT_FILENO) == 0;
-    const Progress progress(showsProgress, showsProgress ? countLines(file) : 0);
-    const int status = Batch(program, line, options).run(isFile ? file : std::cin, progress);
+    const size_t lines = showsProgress ? countLines(file) : 0;
+    const int status = Batch(program, line, options).run(isFile ? file : std::cin, lines);
     --program.depth;
     return status;
 }

@@ -128,10 +128,7 @@ int runThen(Program& program, const Stream& stream)
 
 std::vector<OptionText> eventsOptions()
 {
-    CLI::App app;
-    StreamOptions options;
-    addStreamOptions(app, options);
-    return optionTexts(app);
+    return optionTexts(addStreamOptions);
 }
 
 int runEvents(Program& program, const Line& line)

@@ -14,11 +14,21 @@ namespace {
 
 using interface::Request;
 
-constexpr char kExitStatus[] =
-    "Exit status: 0 success, 1 refused or failed, 2 wrong usage, 3 no answer in time, "
-    "4 the modem can't be reached.";
+constexpr Entry kExitStatuses[] = {
+    {"0", "success"},
+    {"1",
+     "the library refused the request, the modem reported a failure, or a batch expected something else"},
+    {"2", "wrong usage"},
+    {"3", "no answer in time"},
+    {"4", "the modem can't be reached"},
+};
 
 } // namespace
+
+std::span<const Entry> exitStatuses()
+{
+    return kExitStatuses;
+}
 
 std::string programHelp()
 {
@@ -35,7 +45,11 @@ std::string programHelp()
     for (const OptionText& option : globalOptionTexts()) {
         add(option.name + ' ' + option.value, option.help);
     }
-    return text + "\n" + kExitStatus + "\n'radioctl list' tells all requests, 'radioctl help REQUEST' one.\n";
+    text += "\nExit status:\n";
+    for (const Entry& status : kExitStatuses) {
+        text += fmt::format("  {}  {}\n", status.what, status.help);
+    }
+    return text + "\n'radioctl list' tells all requests, 'radioctl help REQUEST' one.\n";
 }
 
 std::string requestList(bool json)

@@ -4,9 +4,15 @@
 
 #include "radioctl/options.h"
 
-#include "interface/description.h"
-
 namespace radioctl {
+
+/// A line of a list.
+struct Entry {
+    const char* what;
+    const char* help;
+};
+
+std::span<const Entry> exitStatuses();
 
 /// radioctl's own help.
 std::string programHelp();

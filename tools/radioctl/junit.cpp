@@ -1,7 +1,6 @@
 #include "radioctl/junit.h"
 
 #include <fmt/format.h>
-#include <tinyxml2.h>
 
 #include <algorithm>
 #include <stdexcept>
@@ -20,31 +19,32 @@ std::string visible(std::string text)
 
 } // namespace
 
-void JunitReport::add(const std::string& name, double seconds, const std::string& failure)
+JunitReport::JunitReport(std::string suite)
+    : mName(std::move(suite)), mSuite(mDocument.NewElement("testsuite"))
 {
-    mCases.push_back({visible(name), seconds, visible(failure)});
+    mDocument.InsertEndChild(mDocument.NewDeclaration());
+    mDocument.InsertEndChild(mSuite);
 }
 
-void JunitReport::write(const std::string& file) const
+void JunitReport::add(const std::string& name, double seconds, const std::string& failure)
 {
-    tinyxml2::XMLDocument document;
-    document.InsertEndChild(document.NewDeclaration());
-    tinyxml2::XMLElement* suite = document.NewElement("testsuite");
-    document.InsertEndChild(suite);
-    suite->SetAttribute("name", mSuite.c_str());
-    suite->SetAttribute("tests", static_cast<unsigned>(mCases.size()));
-    const auto failures = std::ranges::count_if(mCases, [](const Case& one) { return !one.failure.empty(); });
-    suite->SetAttribute("failures", static_cast<unsigned>(failures));
-    for (const Case& one : mCases) {
-        tinyxml2::XMLElement* element = suite->InsertNewChildElement("testcase");
-        element->SetAttribute("classname", mSuite.c_str());
-        element->SetAttribute("name", one.name.c_str());
-        element->SetAttribute("time", fmt::format("{:.3f}", one.seconds).c_str());
-        if (!one.failure.empty()) {
-            element->InsertNewChildElement("failure")->SetAttribute("message", one.failure.c_str());
-        }
+    ++mTests;
+    tinyxml2::XMLElement* element = mSuite->InsertNewChildElement("testcase");
+    element->SetAttribute("classname", mName.c_str());
+    element->SetAttribute("name", visible(name).c_str());
+    element->SetAttribute("time", fmt::format("{:.3f}", seconds).c_str());
+    if (!failure.empty()) {
+        ++mFailures;
+        element->InsertNewChildElement("failure")->SetAttribute("message", visible(failure).c_str());
     }
-    if (document.SaveFile(file.c_str()) != tinyxml2::XML_SUCCESS) {
+}
+
+void JunitReport::write(const std::string& file)
+{
+    mSuite->SetAttribute("name", mName.c_str());
+    mSuite->SetAttribute("tests", mTests);
+    mSuite->SetAttribute("failures", mFailures);
+    if (mDocument.SaveFile(file.c_str()) != tinyxml2::XML_SUCCESS) {
         throw std::runtime_error(fmt::format("can't write {}", file));
     }
 }

@@ -91,10 +91,7 @@ std::vector<OptionText> optionTexts(const CLI::App& app)
 
 std::vector<OptionText> globalOptionTexts()
 {
-    CLI::App app;
-    Options options;
-    addOptions(app, options);
-    return optionTexts(app);
+    return optionTexts(addOptions);
 }
 
 void refuseUnknownOptions(std::span<const std::string> words, std::span<const std::string_view> known)

@@ -57,6 +57,16 @@ struct OptionText {
 std::vector<OptionText> optionTexts(const CLI::App& app);
 std::vector<OptionText> globalOptionTexts();
 
+/// Those of a command, which `add` defines.
+template <typename Own>
+std::vector<OptionText> optionTexts(void (*add)(CLI::App& app, Own& options))
+{
+    CLI::App app;
+    Own options;
+    add(app, options);
+    return optionTexts(app);
+}
+
 /// Throws UsageError when a word looks like an option and is none, with a suggestion among `known`.
 void refuseUnknownOptions(std::span<const std::string> words, std::span<const std::string_view> known = {});
 

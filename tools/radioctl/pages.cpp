@@ -12,7 +12,6 @@ namespace radioctl {
 
 namespace {
 
-using interface::Argument;
 using interface::Request;
 
 template <typename Table>
@@ -38,16 +37,6 @@ struct Place {
     std::string words;
 };
 
-std::string wordsFor(const Argument& argument)
-{
-    Words words;
-    std::ranges::transform(argument.meaning.values, std::back_inserter(words), interface::wordOf);
-    if (argument.type == interface::Type::Bool) {
-        words = {"on", "off"};
-    }
-    return fmt::format("{}", fmt::join(words, " "));
-}
-
 std::vector<Place> allPlaces()
 {
     std::vector<Place> places = {
@@ -56,9 +45,11 @@ std::vector<Place> allPlaces()
         {"sim:*", "--value --times --slot"},        {"completion:1", "bash zsh"}};
     for (const Request& request : interface::requests()) {
         for (size_t i = 0; i < request.arguments.size(); ++i) {
-            const std::string words = wordsFor(request.arguments[i]);
+            const interface::Argument& argument = request.arguments[i];
+            const auto words = interface::valueWords(argument.meaning, argument.type);
             if (!words.empty()) {
-                places.push_back({fmt::format("{}:{}", request.name, i + 1), words});
+                places.push_back(
+                    {fmt::format("{}:{}", request.name, i + 1), fmt::format("{}", fmt::join(words, " "))});
             }
         }
         if (const Words words = specialWords(request); !words.empty()) {
@@ -172,11 +163,6 @@ std::string requestEntries()
     return text;
 }
 
-struct Entry {
-    const char* what;
-    const char* help;
-};
-
 constexpr Entry kEnvironment[] = {
     {"RADIO_DEVICE_ROOT", "the folder that stands for the device's file system"},
     {"RADIO_VORN_DEVICE", "the device, instead of the one that the device file names; --device goes first"},
@@ -189,15 +175,6 @@ constexpr Entry kEnvironment[] = {
 constexpr Entry kFiles[] = {
     {"odm/etc/vorn_device_config.xml", "under the device root: the device to open"},
     {"default.prop", "under the device root: properties, key=value, such as host.vorn.timeout_ms"},
-};
-
-constexpr Entry kExitStatuses[] = {
-    {"0", "success"},
-    {"1",
-     "the library refused the request, the modem reported a failure, or a batch expected something else"},
-    {"2", "wrong usage"},
-    {"3", "no answer in time"},
-    {"4", "the modem can't be reached"},
 };
 
 std::string entries(std::span<const Entry> all)
@@ -316,7 +293,7 @@ std::string manPage()
         text += entry(fmt::format("sim {} {}", command.name, command.arguments), command.help);
     }
     text += ".SH REQUESTS\n" + requestEntries();
-    text += ".SH EXIT STATUS\n" + entries(kExitStatuses);
+    text += ".SH EXIT STATUS\n" + entries(exitStatuses());
     text += ".SH ENVIRONMENT\n" + entries(kEnvironment);
     return text + ".SH FILES\n" + entries(kFiles);
 }

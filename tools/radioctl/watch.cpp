@@ -164,10 +164,7 @@ private:
 
 std::vector<OptionText> watchOptions()
 {
-    CLI::App app;
-    WatchOptions options;
-    addWatchOptions(app, options);
-    return optionTexts(app);
+    return optionTexts(addWatchOptions);
 }
 
 int runWatch(Program& program, const Line& line)

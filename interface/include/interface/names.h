@@ -13,6 +13,9 @@ namespace interface {
 /// The name of a value on a command line: "NR second" is nr-second.
 std::string wordOf(const Value& value);
 
+/// The names of all values that an argument or a member may have; on and off of a bool.
+std::vector<std::string> valueWords(const Meaning& meaning, Type type);
+
 /// Which of the names is meant by a word that is none of them: the one that takes the fewest letters to change, when
 /// those are few; otherwise nothing.
 std::string_view nearest(std::string_view word, std::span<const std::string_view> names);
