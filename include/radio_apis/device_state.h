@@ -8,37 +8,37 @@
 
 #include <cstdint>
 
-/// For requests whose answer is no more than the modem's verdict.
+/// Result of requests whose answer is no more than the modem's verdict.
 struct RadioModemVerdict {
-    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
+    uint32_t failure; ///< whether the modem reported a failure, 1 or 0 \failure
 };
 
-/// Result of radioGetFeatureState.
+/// Result of radioGetFeatureState: the state of a modem feature.
 struct RadioFeatureState {
-    uint32_t state; ///< as last set; 0 when the modem does not say
+    uint32_t state; ///< state of the feature, as last set; 0 when the modem does not say
 };
 
-/// Result of radioSendDeviceStateExt.
+/// Result of radioSendDeviceStateExt: what the modem made of the state.
 struct RadioDeviceStateExt {
-    uint32_t result;        ///< the modem's result code; 0: success
-    int32_t deviceStateExt; ///< the state that the modem now assumes
+    uint32_t result;        ///< the modem's result code; 0: success \failure
+    int32_t deviceStateExt; ///< extended state that the modem now assumes, as it defines it
 };
 
-inline constexpr unsigned kRadioMaxSidoIssueValues = 20; ///< of one configuration
+inline constexpr unsigned kRadioMaxSidoIssueValues = 20; ///< values of one configuration
 
 extern "C" {
 
 /// Tells the modem whether the screen is on.
 ///
-/// @param screenState  as the modem defines it, passed through
+/// @param screenState  state of the screen, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSendScreenState(int screenState, void* userData, RadioRequestCallback callback);
 
 /// Tells the modem how the device is moving.
 ///
-/// @param microMotionState  the motion detector's state, passed through
-/// @param multiplier        its multiplier, passed through
+/// @param microMotionState  state of the motion detector, as the modem defines it
+/// @param multiplier        multiplier of the motion detector, as the modem defines it
 /// \fills{microMotion}
 /// \sent
 RADIO_API int radioSetMicroMotionState(int microMotionState, int multiplier, void* userData,
@@ -46,32 +46,32 @@ RADIO_API int radioSetMicroMotionState(int microMotionState, int multiplier, voi
 
 /// Tells the modem whether it should keep in step with the application processor.
 ///
-/// @param sync  passed through
+/// @param sync  whether to keep in step, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetSyncWithAp(int sync, void* userData, RadioRequestCallback callback);
 
 /// Switches a modem feature.
 ///
-/// @param feature  which feature, passed through
-/// @param state    its state, passed through
+/// @param feature  feature, as the modem numbers it
+/// @param state    state of the feature, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetFeatureState(int feature, int state, void* userData, RadioRequestCallback callback);
 
 /// The state of a modem feature.
 ///
-/// @param feature  which feature
+/// @param feature  feature, as the modem numbers it
 /// \fills{featureState}
 /// \sent
 RADIO_API int radioGetFeatureState(int feature, void* userData, RadioRequestCallback callback);
 
 /// Runs one of the modem's prepared cases.
 ///
-/// @param caseId  which case
-/// @param param1  its parameters, passed through
-/// @param param2  see `param1`
-/// @param param3  see `param1`
+/// @param caseId  case, as the modem numbers it
+/// @param param1  first parameter of the case
+/// @param param2  second parameter of the case
+/// @param param3  third parameter of the case
 /// \verdict
 /// \sent
 RADIO_API int radioDispatchCase(unsigned int caseId, int param1, int param2, int param3, void* userData,
@@ -79,9 +79,9 @@ RADIO_API int radioDispatchCase(unsigned int caseId, int param1, int param2, int
 
 /// Sets the values of one kind of diagnosis.
 ///
-/// @param type    which kind
-/// @param values  the values; may be null when `count` is 0
-/// @param count   their number, at most 65535
+/// @param type    kind of diagnosis, as the modem defines it
+/// @param values  values, as the modem defines them \range{0 to 65535} \countedby{count}; may be null when `count` is 0
+/// @param count   number of values
 /// \verdict
 /// \sentor{11 for null values or too many of them}
 RADIO_API int radioSetDiagnoseConfig(unsigned int type, int* values, unsigned int count, void* userData,
@@ -89,8 +89,8 @@ RADIO_API int radioSetDiagnoseConfig(unsigned int type, int* values, unsigned in
 
 /// Configures the detection of issues of the supply's single-inductor dual-output converter.
 ///
-/// @param values  the values; not null
-/// @param count   their number, at most 20
+/// @param values  values, as the modem defines them \range{0 to 20} \countedby{count}; not null
+/// @param count   number of values
 /// \verdict
 /// \sentor{11 for null values or too many of them}
 RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* userData,
@@ -98,29 +98,29 @@ RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* use
 
 /// Tells the modem an extended state of the device.
 ///
-/// @param deviceStateExt  as the modem defines it, passed through
+/// @param deviceStateExt  extended state of the device, as the modem defines it
 /// \fills{deviceStateExt}
 /// \sent
 RADIO_API int radioSendDeviceStateExt(int deviceStateExt, void* userData, RadioRequestCallback callback);
 
 /// Sets the IMB state.
 ///
-/// @param state  as the modem defines it; its low 8 bits are sent
+/// @param state  IMB state, as the modem defines it \range{0 to 255}; the low 8 bits are sent
 /// \verdict
 /// \sent
 RADIO_API int radioSetImbState(int state, void* userData, RadioRequestCallback callback);
 
 /// Tells the modem how the device's screen is folded.
 ///
-/// @param state  as the modem numbers it
+/// @param state  how the screen is folded, as the modem numbers it
 /// \command
 /// \sent
 RADIO_API int radioUpdateFoldScreenStatus(int state, void* userData, RadioRequestCallback callback);
 
 /// Sets the software version number of the device's identity (IMEISV, 3GPP TS 23.003).
 ///
-/// @param svn  sent in hexadecimal, with two digits or more: 10 is sent as "0a". An identity has two decimal digits
-///             there, so that 42 is to be given as 0x42
+/// @param svn  software version number; sent in hexadecimal, with two digits or more: 10 is sent as "0a". An identity
+///             has two decimal digits there: for 42 give 0x42
 /// \command
 /// \sent
 RADIO_API int radioSetImeiSvn(int svn, void* userData, RadioRequestCallback callback);

@@ -9,14 +9,14 @@
 #include <cstdint>
 #include <vector>
 
-inline constexpr unsigned kRadioMaxIdcOffsets = 20; ///< of one request
+inline constexpr unsigned kRadioMaxIdcOffsets = 20; ///< entries of the offset table in one request
 
-/// One entry of the offset table, as the modem defines it.
+/// One entry of the offset table.
 struct RadioIdcOffsetConfig {
-    int32_t f0; ///< its low 8 bits are sent
-    int32_t f1; ///< sent as it is
-    int32_t f2; ///< sent as it is
-    int32_t f3; ///< its low 16 bits are sent
+    int32_t f0; ///< first value, as the modem defines it \range{0 to 255}; the low 8 bits are sent
+    int32_t f1; ///< second value, as the modem defines it
+    int32_t f2; ///< third value, as the modem defines it
+    int32_t f3; ///< fourth value, as the modem defines it \range{0 to 65535}; the low 16 bits are sent
 };
 static_assert(sizeof(RadioIdcOffsetConfig) == 16);
 
@@ -24,9 +24,9 @@ extern "C" {
 
 /// Sets the offsets that keep the modem off disturbed frequencies.
 ///
-/// @param rat      radio access technology as the modem numbers it, 4 or 7
-/// @param offset   the common offset; its low 16 bits are sent
-/// @param configs  the table; the first 20 entries are sent, further ones are not
+/// @param rat      radio access technology, as the modem numbers it: 4 or 7
+/// @param offset   common offset, as the modem defines it \range{-32768 to 32767}; the low 16 bits are sent
+/// @param configs  offset table \range{0 to 20}; of more entries the first 20 are sent
 /// \verdict
 /// \sentor{2 for another rat}
 RADIO_API int radioSetIdcOffset(int rat, int offset, const std::vector<RadioIdcOffsetConfig>& configs,

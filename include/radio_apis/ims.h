@@ -8,41 +8,41 @@
 
 #include <cstdint>
 
-/// When the audio quality of an IMS call is reported: values as the modem defines them. As on the wire.
+/// When the audio quality of an IMS call is reported. As on the wire.
 struct RadioImsAudioQualityThreshold {
-    int32_t values[22]; ///< sent in this order
+    int32_t values[22]; ///< thresholds of audio quality, as the modem defines them
 };
 static_assert(sizeof(RadioImsAudioQualityThreshold) == 88);
 
-/// When the modem prefers another cell: values as it defines them. As on the wire.
+/// When the modem prefers another cell. As on the wire.
 struct RadioAdaptiveHandoverThreshold {
-    int32_t values[6]; ///< sent in this order
+    int32_t values[6]; ///< thresholds of the handover, as the modem defines them
 };
 static_assert(sizeof(RadioAdaptiveHandoverThreshold) == 24);
 
-/// An RTP session. As on the wire.
+/// An RTP session of an IMS call. As on the wire.
 struct RadioImsRtpInfo {
-    int32_t id;    ///< the call's identifier
-    int32_t state; ///< passed through
+    int32_t id;    ///< identifier of the call
+    int32_t state; ///< state of the session, as the modem defines it
 };
 static_assert(sizeof(RadioImsRtpInfo) == 8);
 
-/// When the quality of an RTP session is reported: values as the modem defines them. As on the wire.
+/// When the quality of an RTP session is reported. As on the wire.
 struct RadioImsRtpThresholdInfo {
-    int32_t values[9]; ///< sent in this order
+    int32_t values[9]; ///< thresholds of RTP quality, as the modem defines them
 };
 static_assert(sizeof(RadioImsRtpThresholdInfo) == 36);
 
-/// Result of radioGetImsUssdEnabled.
+/// Result of radioGetImsUssdEnabled: whether supplementary services go over IMS.
 struct RadioImsUssd {
-    int32_t enabled; ///< 0 off, 1 on
+    int32_t enabled; ///< supplementary services over IMS \values{0: off, 1: on}
 };
 
 extern "C" {
 
-/// Sets when audio quality is reported.
+/// Sets when the audio quality of an IMS call is reported.
 ///
-/// @param threshold  sent as it is
+/// @param threshold  thresholds of audio quality
 /// \verdict
 /// \sent
 RADIO_API int radioSetImsAudioQualityThreshold(const RadioImsAudioQualityThreshold& threshold, void* userData,
@@ -50,22 +50,22 @@ RADIO_API int radioSetImsAudioQualityThreshold(const RadioImsAudioQualityThresho
 
 /// Sets when the modem prefers another cell.
 ///
-/// @param threshold  sent as it is
+/// @param threshold  thresholds of the handover
 /// \verdict
 /// \sent
 RADIO_API int radioSetAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThreshold& threshold,
                                                 void* userData, RadioRequestCallback callback);
 
-/// Tells the modem of an RTP session.
+/// Tells the modem of an RTP session of an IMS call.
 ///
-/// @param info  sent as it is
+/// @param info  session, and its state
 /// \verdict
 /// \sent
 RADIO_API int radioSetImsRtpInfo(const RadioImsRtpInfo& info, void* userData, RadioRequestCallback callback);
 
-/// Sets when RTP quality is reported.
+/// Sets when the quality of an RTP session is reported.
 ///
-/// @param info  sent as it is
+/// @param info  thresholds of RTP quality
 /// \verdict
 /// \sent
 RADIO_API int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void* userData,
@@ -80,14 +80,15 @@ RADIO_API int radioGetImsUssdEnabled(void* userData, RadioRequestCallback callba
 /// Switches calls over Wi-Fi while roaming between cellular and Wi-Fi. On, it takes two commands, of which the
 /// second one's answer is told.
 ///
-/// @param enable  on or off
+/// @param enable  whether they are on
 /// \command
 /// \sent
 RADIO_API int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCallback callback);
 
 /// Names the gateway of calls over Wi-Fi (ePDG, 3GPP TS 23.003).
 ///
-/// @param fqdn  its name, at most 224 bytes: with more the command is cut at its end without a word
+/// @param fqdn  fully qualified domain name of the gateway \range{0 to 224}; with more bytes the command is cut at its
+///              end without a word
 /// \command
 /// \sent{as for null, or a control character or double quote in the text}
 RADIO_API int radioSetCarrierOmacpFqdn(const char* fqdn, void* userData, RadioRequestCallback callback);

@@ -9,60 +9,67 @@
 
 #include <cstdint>
 
-/// Result of radioGetMetricsData.
+/// Result of radioGetMetricsData: metrics that were collected.
 struct RadioMetricsData {
-    uint32_t length;     ///< bytes in `data`; more are cut
-    uint8_t data[16384]; ///< as the modem defines it
-    int32_t type;        ///< which metrics; -1 when the modem does not say
+    uint32_t length;     ///< number of bytes in `data`; more than 16384 are cut
+    uint8_t data[16384]; ///< metrics, as the modem writes them \countedby{length}
+    int32_t type;        ///< kind of metrics; -1 when the modem does not say
     int32_t count;       ///< number of metrics; 0 when the modem does not say
-    int32_t state;       ///< as the modem defines it; 0 when it does not say
+    int32_t state;       ///< state of the collection, as the modem defines it; 0 when it does not say
 };
 
-using RadioAtomData = RadioBlob<4096>;     ///< Result of radioGetAtomData.
-using RadioNecData = RadioBlob<2048>;      ///< Result of radioGetNecData.
-using RadioProtocolInfo = RadioBlob<4096>; ///< Result of radioGetModemProtocolInfo.
+/// Result of radioGetAtomData: data that atoms collected.
+using RadioAtomData = RadioBlob<4096>;
 
-/// Which measurements the modem reports: eight values as it defines them, sent in this order.
+/// Result of radioGetNecData: data of the network evaluation.
+using RadioNecData = RadioBlob<2048>;
+
+/// Result of radioGetModemProtocolInfo: what the modem tells of its protocol state.
+using RadioProtocolInfo = RadioBlob<4096>;
+
+/// Which measurements the modem reports.
 struct VeyraConfigPolicy {
-    int32_t values[8]; ///< sent in this order
+    int32_t values[8]; ///< values of the policy, as the modem defines them
 };
 
 extern "C" {
 
 /// Starts the collection of metrics.
 ///
-/// @param type   kind of metrics, passed through
-/// @param ids    which metrics; may be null when `count` is 0
-/// @param count  their number, at most 65535
+/// @param type   kind of metrics, as the modem defines it
+/// @param ids    metrics, as the modem numbers them \range{0 to 65535} \countedby{count}; may be null when `count` is 0
+/// @param count  number of metrics
 /// \verdict
 /// \sentor{11 for null ids or too many of them}
 RADIO_API int radioStartMetricsCollect(int type, int* ids, unsigned int count, void* userData,
                                        RadioRequestCallback callback);
 
-/// Stops the collection.
+/// Stops the collection of metrics.
 ///
-/// @param type  kind of metrics
+/// @param type  kind of metrics, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioStopMetricsCollect(int type, void* userData, RadioRequestCallback callback);
 
-/// What was collected.
+/// The metrics that were collected.
 ///
-/// @param type    kind of metrics
-/// @param option  passed through
-/// @param state   passed through
-/// @param ids     which metrics; may be null when `count` is 0
-/// @param count   their number, at most 65535
+/// @param type    kind of metrics, as the modem defines it
+/// @param option  option of the question, as the modem defines it
+/// @param state   state of the collection, as the modem defines it
+/// @param ids     metrics, as the modem numbers them \range{0 to 65535} \countedby{count}; may be null when `count` is
+///                0
+/// @param count   number of metrics
 /// \fills{metricsData}
 /// \sentor{11 for null ids or too many of them}
 RADIO_API int radioGetMetricsData(int type, int option, int state, int* ids, unsigned int count,
                                   void* userData, RadioRequestCallback callback);
 
-/// Data of the network evaluation.
+/// The data of the modem's network evaluation.
 ///
-/// @param type    kind of data, passed through
-/// @param data    what the modem needs for it; may be null when `length` is 0
-/// @param length  number of bytes, at most 65535
+/// @param type    kind of data, as the modem defines it
+/// @param data    what the modem needs to know for it \range{0 to 65535} \countedby{length}; may be null when `length`
+///                is 0
+/// @param length  number of bytes
 /// \fills{necData}
 /// \sentor{11 for null data or too much of it}
 RADIO_API int radioGetNecData(int type, const unsigned char* data, unsigned int length, void* userData,
@@ -76,7 +83,7 @@ RADIO_API int radioGetModemProtocolInfo(void* userData, RadioRequestCallback cal
 
 /// Sets which measurements the modem reports with RADIO_EVENT_VEYRA_CELL_INFO_IND.
 ///
-/// @param policy  see the record
+/// @param policy  which measurements
 /// \verdict
 /// \sent
 RADIO_API int radioSetVeyraConfigPolicy(VeyraConfigPolicy policy, void* userData,

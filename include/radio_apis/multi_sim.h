@@ -8,11 +8,11 @@
 
 #include <cstdint>
 
-/// Result of radioGetMsimSubModeState.
+/// Result of radioGetMsimSubModeState: how the modem serves several SIM cards.
 struct RadioMsimSubModeState {
-    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
-    uint32_t subMode; ///< as the modem numbers it, 0 to 255
-    uint32_t state;   ///< its state as the modem numbers it, 0 to 255
+    uint32_t failure; ///< whether the modem reported a failure, 1 or 0 \failure
+    uint32_t subMode; ///< how the modem serves several SIM cards, as it numbers it \range{0 to 255}
+    uint32_t state;   ///< state of that mode, as the modem numbers it \range{0 to 255}
 };
 
 extern "C" {
@@ -25,9 +25,11 @@ RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback call
 
 /// Sets from which level on the modem prefers to serve both SIM cards at the same time (DSDA).
 ///
-/// @param rat      radio access technology as the modem numbers it, 4 or 7
-/// @param thresh1  the first threshold; with rat 4 it is sent multiplied by 4. 16 bits are sent
-/// @param thresh2  the second threshold, likewise
+/// @param rat      radio access technology, as the modem numbers it: 4 or 7
+/// @param thresh1  first threshold, as the modem defines it \range{-32768 to 32767}; with rat 4 it is sent multiplied
+///                 by 4, and only -8192 to 8191 survive since 16 bits are sent
+/// @param thresh2  second threshold, as the modem defines it \range{-32768 to 32767}; with rat 4 it is sent multiplied
+///                 by 4, and only -8192 to 8191 survive since 16 bits are sent
 /// \verdict
 /// \sentor{2 for another rat}
 RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData,
@@ -35,7 +37,7 @@ RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, vo
 
 /// Sets how the modem is to serve several SIM cards.
 ///
-/// @param mode  as the modem numbers it
+/// @param mode  how the modem is to serve several SIM cards, as it numbers it
 /// \command
 /// \sent
 RADIO_API int radioSetMsimSubModePref(int mode, void* userData, RadioRequestCallback callback);

@@ -10,29 +10,30 @@
 
 inline constexpr unsigned kRadioMaxNvBytes = 20480; ///< bytes of the longest item
 
-/// Result of radioReadNv.
+/// Result of radioReadNv: the contents of one item.
 struct RadioNvItem {
-    uint32_t failure;               ///< 1 when the modem reported a failure, otherwise 0
-    uint16_t dataLen;               ///< number of bytes in `data`; more are cut
-    uint8_t data[kRadioMaxNvBytes]; ///< the first `dataLen` bytes count
+    uint32_t failure;               ///< whether the modem reported a failure, 1 or 0 \failure
+    uint16_t dataLen;               ///< number of bytes in `data`; more than 20480 are cut
+    uint8_t data[kRadioMaxNvBytes]; ///< contents of the item \countedby{dataLen} \confidential
 };
 
 extern "C" {
 
-/// Reads one item.
+/// Reads one non-volatile item.
 ///
-/// @param id     the item's number
-/// @param index  which of its records
+/// @param id     number of the item
+/// @param index  which of the item's records
 /// \fills{nvItemData}
 /// \sent
 RADIO_API int radioReadNv(int id, signed char index, void* userData, RadioRequestCallback callback);
 
-/// Writes one item.
+/// Writes one non-volatile item.
 ///
-/// @param id       the item's number
-/// @param index    which of its records
-/// @param data     the new contents, copied before this returns; not null
-/// @param dataLen  their number, at most 20480 bytes
+/// @param id       number of the item
+/// @param index    which of the item's records
+/// @param data     new contents of the item \range{0 to 20480} \countedby{dataLen} \confidential; copied before this
+///                 returns, not null
+/// @param dataLen  number of bytes
 /// \fills{nvWrite}
 /// \sentor{11 for a null `data` or too many bytes}
 RADIO_API int radioWriteNv(int id, signed char index, const unsigned char* data, unsigned int dataLen,

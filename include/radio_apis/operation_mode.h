@@ -11,14 +11,21 @@
 /// What radioSetOperationMode is to do; only the low three bits count. These are not the numbers that
 /// radioGetOperationMode answers with: there 4 means that the radio is off.
 enum RADIO_OPERATION_MODE_TYPE : int32_t {
-    RADIO_OPERATION_MODE_OFF = 0,   ///< as every value whose low three bits are not 4
-    RADIO_OPERATION_MODE_ONLINE = 4 ///< radio on; as every value whose low three bits are 4
+    RADIO_OPERATION_MODE_OFF = 0,   ///< radio off, as every value whose low three bits are not 4
+    RADIO_OPERATION_MODE_ONLINE = 4 ///< radio on, as every value whose low three bits are 4
 };
 
-/// Result of radioGetOperationMode.
+/// Levels of functionality (3GPP TS 27.007, +CFUN).
+enum RadioFunctionality : uint32_t {
+    RADIO_FUNCTIONALITY_MINIMUM = 0,  ///< minimum functionality, without radio and SIM card
+    RADIO_FUNCTIONALITY_FULL = 1,     ///< full functionality
+    RADIO_FUNCTIONALITY_RADIO_OFF = 4 ///< neither transmitting nor receiving
+};
+
+/// Result of radioGetOperationMode: the level of functionality.
 struct RadioOperationMode {
-    uint32_t failure; ///< always 0: a failure of the modem is the callback's result
-    uint32_t mode;    ///< 0 minimum, 1 full functionality, 4 radio off; others as the modem numbers them
+    uint32_t failure; ///< always 0, since the callback's result tells a failure \failure
+    uint32_t mode;    ///< level of functionality \values{RadioFunctionality}; others as the modem has them
 };
 
 extern "C" {
@@ -26,7 +33,7 @@ extern "C" {
 /// Switches the radio on or off (+EFUN=3 or +EFUN=0), waits 500 ms and looks whether the modem has done so; once
 /// more after another 500 ms.
 ///
-/// @param mode  see the enumeration
+/// @param mode  whether the radio is to be on
 /// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem has done so, else with RADIO_APIS_FAILURE; the
 ///                  record is empty
