@@ -77,10 +77,10 @@ RADIO_API int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void
 /// \sent
 RADIO_API int radioGetImsUssdEnabled(void* userData, RadioRequestCallback callback);
 
-/// Switches calls over Wi-Fi while roaming between cellular and Wi-Fi. On, it takes two commands, of which the
-/// second one's answer is told.
+/// Switches calls over Wi-Fi while roaming between cellular and Wi-Fi. To switch them on takes two commands, of which
+/// the second one's answer is told.
 ///
-/// @param enable  whether they are on
+/// @param enable  whether such calls are on
 /// \command
 /// \sent
 RADIO_API int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCallback callback);

@@ -83,7 +83,7 @@ RADIO_API int radioGetModemProtocolInfo(void* userData, RadioRequestCallback cal
 
 /// Sets which measurements the modem reports with RADIO_EVENT_VEYRA_CELL_INFO_IND.
 ///
-/// @param policy  which measurements
+/// @param policy  which measurements are reported
 /// \verdict
 /// \sent
 RADIO_API int radioSetVeyraConfigPolicy(VeyraConfigPolicy policy, void* userData,

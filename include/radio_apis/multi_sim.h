@@ -23,7 +23,7 @@ extern "C" {
 /// \sent
 RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback callback);
 
-/// Sets from which level on the modem prefers to serve both SIM cards at the same time (DSDA).
+/// Sets from which level on the modem prefers to serve both SIM cards at once (DSDA).
 ///
 /// @param rat      radio access technology, as the modem numbers it: 4 or 7
 /// @param thresh1  first threshold, as the modem defines it \range{-32768 to 32767}; with rat 4 it is sent multiplied

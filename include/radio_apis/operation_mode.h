@@ -17,9 +17,9 @@ enum RADIO_OPERATION_MODE_TYPE : int32_t {
 
 /// Levels of functionality (3GPP TS 27.007, +CFUN).
 enum RadioFunctionality : uint32_t {
-    RADIO_FUNCTIONALITY_MINIMUM = 0,  ///< minimum functionality, without radio and SIM card
+    RADIO_FUNCTIONALITY_MINIMUM = 0,  ///< minimum functionality, with the radio off
     RADIO_FUNCTIONALITY_FULL = 1,     ///< full functionality
-    RADIO_FUNCTIONALITY_RADIO_OFF = 4 ///< neither transmitting nor receiving
+    RADIO_FUNCTIONALITY_RADIO_OFF = 4 ///< radio off, transmitter and receiver
 };
 
 /// Result of radioGetOperationMode: the level of functionality.
@@ -30,8 +30,8 @@ struct RadioOperationMode {
 
 extern "C" {
 
-/// Switches the radio on or off (+EFUN=3 or +EFUN=0), waits 500 ms and looks whether the modem has done so; once
-/// more after another 500 ms.
+/// Switches the radio on or off, and looks whether the modem has done so. The command is +EFUN=3 or +EFUN=0; the
+/// library looks 500 ms later, and if need be once more after another 500 ms.
 ///
 /// @param mode  whether the radio is to be on
 /// \user
