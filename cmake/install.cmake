@@ -24,6 +24,7 @@ if(RADIO_PLATFORM STREQUAL host)
     install(TARGETS kst radioctl modem-sim)
     install(DIRECTORY examples/device examples/scenarios DESTINATION ${data_dir})
     install(FILES examples/every-request.txt DESTINATION ${data_dir})
+    install(FILES interface/radio_apis.json interface/radio_apis.schema.json DESTINATION ${data_dir})
     install(FILES protocol/messages.json sim/default_scenario.json sim/scenario.schema.json DESTINATION ${data_dir})
 
     # What radioctl tells of itself.

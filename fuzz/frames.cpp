@@ -1,7 +1,7 @@
 /// What a socket brings, in pieces of the size that the first byte tells: frames that hold a message must hold the
 /// same one when they are written again, and the simulated modem takes each as a request.
-#include "command_message.h"
-#include "frame_stream.h"
+#include "host/wire/command_message.h"
+#include "host/wire/frame_stream.h"
 #include "nobody.h"
 #include "support/fields.h"
 

@@ -1,5 +1,5 @@
 /// Commands to the simulation, one or a list of them: each is answered by whether it was done, and by why not.
-#include "command_message.h"
+#include "host/wire/command_message.h"
 #include "nobody.h"
 
 #include <cstdlib>

@@ -1,32 +1,21 @@
 #include "at_commands.h"
 
-#include "at_handlers.h"
 #include "at_interpreter.h"
+#include "requests.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
-#include <optional>
+#include <unordered_map>
 
 namespace sim {
 namespace {
-
-using Type = AtRule::Type;
-
-std::optional<int64_t> toInteger(const std::string& text)
-{
-    int64_t value = 0;
-    const char* end = text.data() + text.size();
-    const auto [parsed, error] = std::from_chars(text.data(), end, value);
-    return error == std::errc() && parsed == end ? std::optional(value) : std::nullopt;
-}
 
 bool fits(const AtParameter& parameter, const AtRule& rule)
 {
     if (parameter.omitted()) {
         return rule.optional;
     }
-    if (parameter.quoted != (rule.type == Type::Text)) {
+    if (parameter.quoted != (rule.type == AtRule::Type::Text)) {
         return false;
     }
     const auto measure = parameter.quoted ? std::optional(static_cast<int64_t>(parameter.text.size()))
@@ -35,6 +24,14 @@ bool fits(const AtParameter& parameter, const AtRule& rule)
 }
 
 } // namespace
+
+std::optional<int64_t> toInteger(const std::string& text)
+{
+    int64_t value = 0;
+    const char* end = text.data() + text.size();
+    const auto [parsed, error] = std::from_chars(text.data(), end, value);
+    return error == std::errc() && parsed == end ? std::optional(value) : std::nullopt;
+}
 
 bool parametersFit(const AtCall& call)
 {
@@ -48,6 +45,11 @@ bool parametersFit(const AtCall& call)
         }
     }
     return true;
+}
+
+AtReply accept(const AtCall&)
+{
+    return {};
 }
 
 AtReply setStored(const AtCall& call)
@@ -80,7 +82,7 @@ AtReply testStored(const AtCall& call)
     std::string line;
     for (const AtRule& rule : call.command.rules) {
         line += line.empty() ? std::string(call.command.name) + ": (" : ",(";
-        if (rule.type == Type::Number) {
+        if (rule.type == AtRule::Type::Number) {
             line += std::to_string(rule.min) + "-" + std::to_string(rule.max);
         }
         line += ")";
@@ -88,128 +90,43 @@ AtReply testStored(const AtCall& call)
     return {AtResult::Ok, {line}};
 }
 
-namespace {
-
-AtReply ok(const AtCall&)
+void setItem(Slot& slot, const std::string& key, std::span<const AtParameter> parameters)
 {
-    return {};
-}
-
-/// ATE0 and ATE1; ATE alone means ATE0.
-AtReply setEcho(const AtCall& call)
-{
-    if (!parametersFit(call)) {
-        return {AtResult::Error};
+    auto& values = slot.at[key];
+    values.clear();
+    for (const AtParameter& parameter : parameters) {
+        values.push_back(parameter.text);
     }
-    call.slot.at["E"] = {call.parameters.empty() ? "0" : call.parameters.front().text};
-    return {};
 }
 
-/// +CFUN=<fun>[,<rst>]: of the levels the modem has 0 minimum, 1 full and 4 radio off. <rst> 1 restarts it
-/// first.
-AtReply setFunctionality(const AtCall& call)
+AtReply setByKey(const AtCall& call)
 {
     if (!parametersFit(call)) {
         return {AtResult::BadParameters};
     }
-    const std::string& level = call.parameters.front().text;
-    if (level != "0" && level != "1" && level != "4") {
-        return {AtResult::NotSupported};
-    }
-    AtReply reply;
-    reply.restart = call.parameters.size() > 1 && call.parameters[1].text == "1";
-    call.slot.setLevel(level);
-    return reply;
-}
-
-AtReply testFunctionality(const AtCall&)
-{
-    return {AtResult::Ok, {"+CFUN: (0,1,4),(0-1)"}};
-}
-
-/// What the queries may tell by now.
-const RadioMode& knownMode(const Slot& slot)
-{
-    return slot.now < slot.modeKnownFrom ? slot.modeBefore : slot.mode;
-}
-
-/// +EFUN=<fun>: 0 off, 1 to 3 on for some or all slots. It takes the modem its time.
-AtReply setSlotsOn(const AtCall& call)
-{
-    if (!parametersFit(call)) {
-        return {AtResult::BadParameters};
-    }
-    Slot& slot = call.slot;
-    const std::string slotsOn = std::to_string(toInteger(call.parameters.front().text).value_or(0));
-    const RadioMode before = knownMode(slot);
-    if (slotsOn != "0") {
-        slot.setLevel("1");
-    } else if (slot.radioOn()) {
-        slot.setLevel("4");
-    }
-    slot.mode.slotsOn = slotsOn;
-    slot.modeBefore = before;
-    slot.modeKnownFrom = slot.now + slot.modeChangeTime;
+    const bool hasNumbers = call.command.rules.size() > 2;
+    const std::span<const AtParameter> pair = std::span(call.parameters).subspan(hasNumbers ? 1 : 0, 2);
+    setItem(call.slot, std::string(call.command.name) + " " + pair[0].text, pair.subspan(1));
     return {};
 }
-
-AtReply querySlotsOn(const AtCall& call)
-{
-    return {AtResult::Ok, {"+EFUN: " + knownMode(call.slot).slotsOn}};
-}
-
-AtReply queryFunctionality(const AtCall& call)
-{
-    return {AtResult::Ok, {"+CFUN: " + knownMode(call.slot).level}};
-}
-
-AtReply getImsi(const AtCall& call)
-{
-    return call.slot.card.present ? AtReply{AtResult::Ok, {call.slot.card.imsi}}
-                                  : AtReply{AtResult::NoSimCard};
-}
-
-constexpr AtRule kEcho[] = {{Type::Number, 0, 1, true}};
-constexpr AtRule kErrorMode[] = {{Type::Number, 0, 2, true}};
-constexpr AtRule kFunctionality[] = {{Type::Number, 0, 127}, {Type::Number, 0, 1, true}};
-constexpr AtRule kOperationMode[] = {{Type::Number, 0, 3}};
-
-constexpr AtCommand kGeneralCommands[] = {
-    {.name = "", .execute = ok},
-    {.name = "E", .execute = setEcho, .rules = kEcho, .initial = "0"},
-    {.name = "+CMEE",
-     .set = setStored,
-     .query = queryStored,
-     .test = testStored,
-     .rules = kErrorMode,
-     .initial = "1"},
-    {.name = "+CFUN",
-     .set = setFunctionality,
-     .query = queryFunctionality,
-     .test = testFunctionality,
-     .rules = kFunctionality},
-    {.name = "+EFUN", .set = setSlotsOn, .query = querySlotsOn, .rules = kOperationMode},
-    {.name = "+CEMODE",
-     .set = setStored,
-     .query = queryStored,
-     .test = testStored,
-     .rules = kOperationMode,
-     .initial = "2"},
-    {.name = "+CIMI", .execute = getImsi, .test = ok},
-};
-
-} // namespace
 
 const AtCommand* findAtCommand(std::string_view name)
 {
-    for (const std::span<const AtCommand> table :
-         {std::span<const AtCommand>(kGeneralCommands), bandCommands(), configurationCommands()}) {
-        const auto found = std::ranges::find(table, name, &AtCommand::name);
-        if (found != table.end()) {
-            return &*found;
+    static const auto& commands = *[] {
+        auto* all = new std::unordered_map<std::string_view, const AtCommand*>;
+        const auto add = [all](std::span<const AtCommand> table) {
+            for (const AtCommand& command : table) {
+                all->emplace(command.name, &command);
+            }
+        };
+        add(sharedCommands());
+        for (const Domain& domain : domains()) {
+            add(domain.commands);
         }
-    }
-    return nullptr;
+        return all;
+    }();
+    const auto found = commands.find(name);
+    return found != commands.end() ? found->second : nullptr;
 }
 
 std::string errorText(AtResult error)

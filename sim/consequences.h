@@ -1,7 +1,7 @@
 /// What the modem tells by itself once it has answered a request.
 #pragma once
 
-#include "handlers.h"
+#include "requests.h"
 #include "indication.h"
 #include "periodic_reports.h"
 

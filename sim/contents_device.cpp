@@ -1,5 +1,6 @@
 // Indications about the device, its calls and its radio hardware.
 
+#include "at_commands.h"
 #include "contents.h"
 
 #include <algorithm>
@@ -27,6 +28,14 @@ uint8_t wifiMode(const Slot& slot)
     return modes != nullptr ? modes->number<uint8_t>(256) : uint8_t{0};
 }
 
+/// The one that was last set to be preferred; 0 when none was, or none that the modem could number.
+uint8_t subModeOf(const Slot& slot)
+{
+    const auto preferred = itemValues(slot, "+ESBP SBP_DSDA");
+    const int64_t mode = preferred ? toInteger(*preferred).value_or(0) : 0;
+    return mode >= 0 && mode <= UINT8_MAX ? static_cast<uint8_t>(mode) : uint8_t{0};
+}
+
 } // namespace
 
 /// The first call, which has ended.
@@ -48,7 +57,7 @@ Fields logContents(const Subject&)
 Fields multiSimContents(const Subject& subject)
 {
     Fields fields;
-    fields.setNumber(257, uint8_t{0});
+    fields.setNumber(257, subModeOf(subject.slot));
     fields.setNumber(258, static_cast<uint8_t>(hasSeveralCards(subject)));
     return fields;
 }

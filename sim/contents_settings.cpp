@@ -1,7 +1,7 @@
 // Indications about what was set.
 
 #include "contents.h"
-#include "handlers.h"
+#include "requests.h"
 
 namespace sim {
 namespace {

@@ -8,73 +8,79 @@ namespace sim {
 
 using nlohmann::json;
 
-const Modem::State::ControlCommand Modem::State::kControlCommands[] = {
-    {"state", &State::controlState},
-    {"fault-add", &State::controlFaultAdd},
-    {"fault-clear", &State::controlFaultClear},
-    {"indicate", &State::controlIndicate},
-    {"restart", &State::controlRestart},
-    {"load", &State::controlLoad},
-};
-
-json Modem::State::control(const json& command, TimePoint now)
+json Modem::control(const json& command, TimePoint now)
 {
+    /// Reads its arguments and adds to the answer.
+    struct Command {
+        std::string_view name;
+        void (*run)(Modem& modem, JsonNode& arguments, TimePoint now, json& answer);
+    };
+    static constexpr Command kCommands[] = {
+        {"state",
+         [](Modem& modem, JsonNode& arguments, TimePoint, json& answer) {
+             arguments.finish();
+             answer["slots"] = json::array();
+             for (const Slot& slot : modem.mState->slots) {
+                 answer["slots"].push_back(slotToJson(slot));
+             }
+         }},
+        {"fault-add",
+         [](Modem& modem, JsonNode& arguments, TimePoint, json&) {
+             Fault fault = faultFromJson(arguments.member("fault"));
+             arguments.finish();
+             modem.mState->faults.add(std::move(fault));
+         }},
+        {"fault-clear",
+         [](Modem& modem, JsonNode& arguments, TimePoint, json&) {
+             arguments.finish();
+             modem.mState->faults.clear();
+         }},
+        {"indicate",
+         [](Modem& modem, JsonNode& arguments, TimePoint, json&) {
+             const Indication indication = indicationFromJson(arguments);
+             arguments.finish();
+             modem.indicate(indication);
+         }},
+        {"restart",
+         [](Modem& modem, JsonNode& arguments, TimePoint, json&) {
+             arguments.finish();
+             modem.restart(kRestartTime);
+         }},
+        {"load",
+         [](Modem& modem, JsonNode& arguments, TimePoint start, json&) {
+             const auto scenario = Scenario::fromJson(arguments.member("scenario").json());
+             arguments.finish();
+             modem.load(readScenario(scenario.json()));
+             modem.mState->start = start;
+         }},
+    };
+
     json answer = {{"ok", true}};
     try {
         JsonNode arguments(command, "");
         const JsonNode name = arguments.member("command");
-        const auto* known = std::ranges::find(kControlCommands, name.text(), &ControlCommand::name);
-        if (known == std::end(kControlCommands)) {
+        const auto* known = std::ranges::find(kCommands, name.text(), &Command::name);
+        if (known == std::end(kCommands)) {
             name.fail("unknown command");
         }
-        (this->*known->run)(arguments, now, answer);
+        known->run(*this, arguments, now, answer);
+    } catch (const UnknownName& error) {
+        answer = {{"ok", false}, {"error", error.what()}, {"known", error.known()}};
     } catch (const std::exception& error) {
         answer = {{"ok", false}, {"error", error.what()}};
     }
     return answer;
 }
 
-void Modem::State::controlState(JsonNode& arguments, TimePoint, json& answer)
+std::string Modem::control(const std::string& command, TimePoint now)
 {
-    arguments.finish();
-    answer["slots"] = json::array();
-    for (const Slot& slot : mSlots) {
-        answer["slots"].push_back(slotToJson(slot));
+    json answer;
+    try {
+        answer = control(json::parse(command), now);
+    } catch (const json::exception& error) {
+        answer = {{"ok", false}, {"error", error.what()}};
     }
-}
-
-void Modem::State::controlFaultAdd(JsonNode& arguments, TimePoint, json&)
-{
-    Fault fault = faultFromJson(arguments.member("fault"));
-    arguments.finish();
-    mFaults.add(std::move(fault));
-}
-
-void Modem::State::controlFaultClear(JsonNode& arguments, TimePoint, json&)
-{
-    arguments.finish();
-    mFaults.clear();
-}
-
-void Modem::State::controlIndicate(JsonNode& arguments, TimePoint, json&)
-{
-    const Indication indication = indicationFromJson(arguments);
-    arguments.finish();
-    indicate(indication);
-}
-
-void Modem::State::controlRestart(JsonNode& arguments, TimePoint, json&)
-{
-    arguments.finish();
-    restart(kRestartTime);
-}
-
-void Modem::State::controlLoad(JsonNode& arguments, TimePoint now, json&)
-{
-    const auto scenario = Scenario::fromJson(arguments.member("scenario").json());
-    arguments.finish();
-    load(readScenario(scenario.json()));
-    mStart = now;
+    return answer.dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
 } // namespace sim

@@ -35,11 +35,7 @@ constexpr uint32_t kMaxTime = 24 * 60 * 60 * 1000;
 void readMatch(JsonNode node, Fault& fault)
 {
     if (const auto message = node.optionalMember("message")) {
-        const MessageSpec* spec = Protocol::instance().find(message->text());
-        if (spec == nullptr || spec->kind != MessageKind::Request) {
-            message->fail("unknown request");
-        }
-        fault.message = spec->id;
+        fault.message = requestFromJson(*message).id;
     }
     if (const auto at = node.optionalMember("at")) {
         fault.at = normalizeAt(at->text());
@@ -99,11 +95,13 @@ Fault faultFromJson(JsonNode node)
     const JsonNode action = node.member("action");
     const auto row = std::ranges::find(kActions, action.text(), &ActionRow::name);
     if (row == kActions.end()) {
-        std::string names;
+        std::string list;
+        std::vector<std::string> names;
         for (const auto& known : kActions) {
-            names += (names.empty() ? "" : ", ") + std::string(known.name);
+            list += (list.empty() ? "" : ", ") + std::string(known.name);
+            names.emplace_back(known.name);
         }
-        action.fail("must be one of " + names);
+        action.failUnknown("must be one of " + list, std::move(names));
     }
     fault.action = row->action;
     fault.time = row->time;

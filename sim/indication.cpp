@@ -62,7 +62,7 @@ Indication indicationFromJson(JsonNode& node)
     Indication indication;
     indication.spec = findIndication(message.text());
     if (indication.spec == nullptr) {
-        message.fail("unknown indication");
+        message.failUnknown("unknown indication", Protocol::instance().namesOf(MessageKind::Indication));
     }
     indication.slot = node.member("slot").number<int>(0, kSlots - 1);
     const auto fields = node.optionalMember("fields");

@@ -146,7 +146,17 @@ void JsonNode::finish() const
 
 void JsonNode::fail(const std::string& reason) const
 {
-    throw ScenarioError((mPath.empty() ? "/" : mPath) + ": " + reason);
+    throw ScenarioError(complaint(reason));
+}
+
+void JsonNode::failUnknown(const std::string& reason, std::vector<std::string> known) const
+{
+    throw UnknownName(complaint(reason), std::move(known));
+}
+
+std::string JsonNode::complaint(const std::string& reason) const
+{
+    return (mPath.empty() ? "/" : mPath) + ": " + reason;
 }
 
 void JsonNode::requireObject() const

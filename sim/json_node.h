@@ -22,6 +22,7 @@ public:
     JsonNode(const nlohmann::json& json, std::string path) : mJson(json), mPath(std::move(path)) {}
 
     const nlohmann::json& json() const { return mJson; }
+    const std::string& path() const { return mPath; }
 
     /// Whether the member exists and is not null. Every other member function throws ScenarioError.
     bool has(std::string_view key);
@@ -47,7 +48,11 @@ public:
 
     [[noreturn]] void fail(const std::string& reason) const;
 
+    /// Throws UnknownName.
+    [[noreturn]] void failUnknown(const std::string& reason, std::vector<std::string> known) const;
+
 private:
+    std::string complaint(const std::string& reason) const;
     int64_t integer(int64_t min, int64_t max) const;
     void requireObject() const;
 

@@ -1,7 +1,7 @@
 /// Indications that the modem repeats until it is told to stop.
 #pragma once
 
-#include "handlers.h"
+#include "requests.h"
 #include "indication.h"
 
 #include <chrono>

@@ -185,4 +185,15 @@ const MessageSpec* Protocol::find(std::string_view nameOrId) const
     return found == mMessages.end() ? nullptr : &*found;
 }
 
+std::vector<std::string> Protocol::namesOf(MessageKind kind) const
+{
+    std::vector<std::string> names;
+    for (const MessageSpec& message : mMessages) {
+        if (message.kind == kind) {
+            names.push_back(message.name);
+        }
+    }
+    return names;
+}
+
 } // namespace sim

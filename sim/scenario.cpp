@@ -13,6 +13,7 @@ namespace {
 using nlohmann::json;
 
 constexpr size_t kMaxListed = 10'000;
+constexpr size_t kMaxCommands = 4096;
 constexpr uint32_t kMaxTime = 24 * 60 * 60 * 1000;
 
 const json& builtInJson()
@@ -51,14 +52,19 @@ ScenarioData readScenario(const json& scenarioJson)
     for (const JsonNode& tray : root.member("simTrays").items(kSlots)) {
         trays.push_back(tray.number<int32_t>());
     }
-    const auto slots = root.member("slots").items(kSlots);
+    auto slots = root.member("slots").items(kSlots);
     if (slots.size() != kSlots) {
         root.member("slots").fail("must have " + std::to_string(kSlots) + " entries");
     }
     for (int i = 0; i < kSlots; ++i) {
+        JsonNode& node = slots.at(static_cast<size_t>(i));
         Slot& slot = scenario.slots.at(static_cast<size_t>(i));
-        slot = slotFromJson(slots.at(static_cast<size_t>(i)), i);
+        slot = slotFromJson(node, i);
         slot.simTrays = trays;
+        for (const JsonNode& command : node.member("at").items(kMaxCommands)) {
+            scenario.commands.push_back({i, command.text(), command.path()});
+        }
+        node.finish();
     }
     if (const auto file = root.optionalMember("nvFile")) {
         scenario.nvFile = file->text();
@@ -94,7 +100,7 @@ Scenario Scenario::fromJson(const nlohmann::json& json)
         throw ScenarioError("/: must be an object");
     }
     auto merged = laidOverBuiltIn(json);
-    readScenario(merged);
+    slotsAtStart(readScenario(merged));
     return Scenario(std::move(merged));
 }
 

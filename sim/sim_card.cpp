@@ -17,7 +17,7 @@ ByteArray<size> arrayFromJson(const JsonNode& node)
 }
 
 /// Sequence numbers have their most significant byte first.
-uint64_t toNumber(const Milenage::Sqn& sqn)
+uint64_t numberOf(const Milenage::Sqn& sqn)
 {
     uint64_t number = 0;
     for (const uint8_t byte : sqn) {
@@ -45,7 +45,7 @@ SimSecrets secretsFromJson(JsonNode node)
         node.fail("needs one of op and opc, and null for the other");
     }
     secrets.opc = opc ? arrayFromJson<16>(*opc) : Milenage::opcOf(secrets.k, arrayFromJson<16>(*op));
-    secrets.nextSqn = toNumber(arrayFromJson<6>(node.member("sqn")));
+    secrets.nextSqn = numberOf(arrayFromJson<6>(node.member("sqn")));
     secrets.amf = arrayFromJson<2>(node.member("amf"));
     node.finish();
     return secrets;
@@ -119,10 +119,10 @@ std::optional<Bytes> authenticate(SimSecrets& secrets, const Bytes& challenge)
     if (mac != functions.networkMac(sqn, amf) || amf != secrets.amf) {
         return std::nullopt;
     }
-    if (toNumber(sqn) < secrets.nextSqn) {
+    if (numberOf(sqn) < secrets.nextSqn) {
         return resynchronisation(functions, secrets.nextSqn - 1);
     }
-    secrets.nextSqn = toNumber(sqn) + 1;
+    secrets.nextSqn = numberOf(sqn) + 1;
     Bytes answer{kSuccess};
     appendCounted(answer, functions.response());
     appendCounted(answer, functions.cipherKey());

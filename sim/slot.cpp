@@ -1,7 +1,5 @@
 #include "slot.h"
 
-#include "at_interpreter.h"
-
 #include <algorithm>
 
 namespace sim {
@@ -15,22 +13,9 @@ constexpr uint32_t kMaxModeChange = 60'000; // milliseconds
 void applySettings(const JsonNode& node, StoredSettings& settings)
 {
     for (JsonNode item : node.items(kMaxListed)) {
-        const JsonNode message = item.member("message");
-        const MessageSpec* spec = Protocol::instance().find(message.text());
-        if (spec == nullptr || spec->kind != MessageKind::Request) {
-            message.fail("unknown request");
-        }
-        settings.store(*spec, fieldsFromJson(item.member("fields"), spec->request));
+        const MessageSpec& spec = requestFromJson(item.member("message"));
+        settings.store(spec, fieldsFromJson(item.member("fields"), spec.request));
         item.finish();
-    }
-}
-
-void applyAtCommands(const JsonNode& node, Slot& slot)
-{
-    for (const JsonNode& command : node.items(kMaxListed)) {
-        if (!executeAt(slot, command.text()).accepted) {
-            command.fail("the modem refuses this command");
-        }
     }
 }
 
@@ -70,7 +55,7 @@ const Cell* Slot::lteCell() const
     return cell;
 }
 
-Slot slotFromJson(JsonNode node, int number)
+Slot slotFromJson(JsonNode& node, int number)
 {
     Slot slot;
     slot.number = number;
@@ -92,8 +77,6 @@ Slot slotFromJson(JsonNode node, int number)
     slot.modeChangeTime =
         std::chrono::milliseconds(node.member("modeChangeMs").number<uint32_t>(0, kMaxModeChange));
     applySettings(node.member("settings"), slot.settings);
-    applyAtCommands(node.member("at"), slot);
-    node.finish();
     return slot;
 }
 

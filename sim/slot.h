@@ -67,8 +67,8 @@ struct Slot {
     const Cell* lteCell() const;
 };
 
-/// Slot `number` of a scenario. Throws ScenarioError.
-Slot slotFromJson(JsonNode node, int number);
+/// Slot `number` of a scenario; reads the members that describe its state only. Throws ScenarioError.
+Slot slotFromJson(JsonNode& node, int number);
 
 /// What `control` shows of a slot.
 nlohmann::json slotToJson(const Slot& slot);

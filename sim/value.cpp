@@ -145,6 +145,16 @@ Message makeMessage(const vorn_msg_hdr_t& header, const Fields& fields)
     return message;
 }
 
+const MessageSpec& requestFromJson(const JsonNode& node)
+{
+    const Protocol& protocol = Protocol::instance();
+    const MessageSpec* spec = protocol.find(node.text());
+    if (spec == nullptr || spec->kind != MessageKind::Request) {
+        node.failUnknown("unknown request", protocol.namesOf(MessageKind::Request));
+    }
+    return *spec;
+}
+
 Value valueFromJson(const JsonNode& node, const FieldSpec& spec)
 {
     if (!spec.isArray) {

@@ -97,6 +97,9 @@ private:
 /// A message with these fields; null when they don't fit into one.
 Message makeMessage(const vorn_msg_hdr_t& header, const Fields& fields);
 
+/// The request that a text names. Throws ScenarioError when there is none.
+const MessageSpec& requestFromJson(const JsonNode& node);
+
 /// A field's value from JSON: numbers, texts, raw bytes as hexadecimal digits, arrays as lists of these.
 /// Throws ScenarioError when it does not suit the field.
 Value valueFromJson(const JsonNode& node, const FieldSpec& spec);

@@ -34,11 +34,11 @@ RADIO_API void vornVsClientNotifyTestIndEvent(void* indication, int, void* userD
 RADIO_API void vornVsClientNotifyVeyraEvevtIndEvent(void* indication, int, void* userData,
                                                     RadioEventCallback callback);
 
-/// RADIO_EVENT_SIDO_ISSUE_IND: an issue of the supply.
+/// RADIO_EVENT_SIDO_ISSUE_IND: an issue of the supply's converter.
 RADIO_API void vornVsClientNotifySidoIssueIndEvent(void* indication, int, void* userData,
                                                    RadioEventCallback callback);
 
-/// RADIO_EVENT_HST_MODE_IND: the high-speed train mode.
+/// RADIO_EVENT_HST_MODE_IND: a change of the high-speed train mode.
 RADIO_API void vornVsClientNotifyHstModeIndEvent(void* indication, int, void* userData,
                                                  RadioEventCallback callback);
 
@@ -46,7 +46,7 @@ RADIO_API void vornVsClientNotifyHstModeIndEvent(void* indication, int, void* us
 RADIO_API void vornVsClientNotifyServingCellInfoIndEvent(void* indication, int, void* userData,
                                                          RadioEventCallback callback);
 
-/// RADIO_EVENT_HYPER_UPLINK_STATE_IND: the uplink enhancement's state.
+/// RADIO_EVENT_HYPER_UPLINK_STATE_IND: the state of the uplink enhancement.
 RADIO_API void vornVsClientNotifyHyperUplinkStateIndEvent(void* indication, int, void* userData,
                                                           RadioEventCallback callback);
 
@@ -54,39 +54,39 @@ RADIO_API void vornVsClientNotifyHyperUplinkStateIndEvent(void* indication, int,
 RADIO_API void vornVsClientNotifyAtomDataIndEvent(void* indication, int, void* userData,
                                                   RadioEventCallback callback);
 
-/// RADIO_EVENT_IMS_RTP_CONTROL_IND: control of an RTP session.
+/// RADIO_EVENT_IMS_RTP_CONTROL_IND: control of an IMS call's RTP session.
 RADIO_API void vornVsClientNotifyImsRtpControlIndEvent(void* indication, int, void* userData,
                                                        RadioEventCallback callback);
 
-/// RADIO_EVENT_OLOG_IND: how much was logged.
+/// RADIO_EVENT_OLOG_IND: how much was logged, and how much was lost.
 RADIO_API void vornVsClentNotifyOlogIndEvent(void* indication, int, void* userData,
                                              RadioEventCallback callback);
 
-/// RADIO_EVENT_SINGLE_SIM_CHANGE_IND: a change between one and two SIMs.
+/// RADIO_EVENT_SINGLE_SIM_CHANGE_IND: a change between one and two SIM cards.
 RADIO_API void vornVsClentNotifySingleSimChangeIndEvent(void* indication, int, void* userData,
                                                         RadioEventCallback callback);
 
-/// RADIO_EVENT_MCC_CHANGED_IND: another country.
+/// RADIO_EVENT_MCC_CHANGED_IND: the mobile country code changed.
 RADIO_API void vornVsClentNotifyMccChangedIndEvent(void* indication, int, void* userData,
                                                    RadioEventCallback callback);
 
-/// RADIO_EVENT_ALERT_EVENT_IND: an alert.
+/// RADIO_EVENT_ALERT_EVENT_IND: an alert of the modem.
 RADIO_API void vornVsClentNotifyAlertEventIndEvent(void* indication, int, void* userData,
                                                    RadioEventCallback callback);
 
-/// Delivers nothing.
+/// RADIO_EVENT_IMS_AUDIO_QUALITY_IND has no record: nothing is delivered.
 RADIO_API void vornVsClentNotifyImsAudioQualityEventIndEvent(void* indication, int, void* userData,
                                                              RadioEventCallback callback);
 
-/// RADIO_EVENT_VODATA_IND: voice over a data connection.
+/// RADIO_EVENT_VODATA_IND: the state of a call over a data connection.
 RADIO_API void vornVsClentNotifyVodataEventIndEvent(void* indication, int, void* userData,
                                                     RadioEventCallback callback);
 
-/// RADIO_EVENT_CALL_STATE_CHANGE_IND: a call's state.
+/// RADIO_EVENT_CALL_STATE_CHANGE_IND: a change of a call's state.
 RADIO_API void vornVsClentNotifyCallStateChangeIndEvent(void* indication, int, void* userData,
                                                         RadioEventCallback callback);
 
-/// RADIO_EVENT_ALL_CELL_INFO_IND: the cells of the subscriptions.
+/// RADIO_EVENT_ALL_CELL_INFO_IND: the serving cells and neighbours of up to two subscriptions.
 RADIO_API void vornVsClentNotifyAllCellInfoIndEvent(void* indication, int, void* userData,
                                                     RadioEventCallback callback);
 
@@ -106,35 +106,35 @@ RADIO_API void vornVsClentNotifyNetworkActionResultIndEvent(void* indication, in
 RADIO_API void vornVsClentNotifySceneModeIndEvent(void* indication, int, void* userData,
                                                   RadioEventCallback callback);
 
-/// RADIO_EVENT_SMART_NETWORK_SELECT_IND: the network that the modem would select.
+/// RADIO_EVENT_SMART_NETWORK_SELECT_IND: the cell that the modem would select.
 RADIO_API void vornVsClentNotifySmartNetworkSelectIndEvent(void* indication, int, void* userData,
                                                            RadioEventCallback callback);
 
-/// RADIO_EVENT_RF_ICC_CLAT_INFO_IND: coexistence with the other radios.
+/// RADIO_EVENT_RF_ICC_CLAT_INFO_IND: coexistence with the device's other radios.
 RADIO_API void vornVsClientNotifyRfIccClatIndEvent(void* indication, int, void* userData,
                                                    RadioEventCallback callback);
 
-/// RADIO_EVENT_RF_ICC_TX_SHARING_IND: sharing of the transmit path with the other radios.
+/// RADIO_EVENT_RF_ICC_TX_SHARING_IND: sharing of the transmit path with the device's other radios.
 RADIO_API void vornVsClientNotifyRfIccTxSharingIndEvent(void* indication, int, void* userData,
                                                         RadioEventCallback callback);
 
-/// RADIO_EVENT_RF_ICC_EVENT_IND: an event of the coexistence.
+/// RADIO_EVENT_RF_ICC_EVENT_IND: an event of the coexistence with the device's other radios.
 RADIO_API void vornVsClientNotifyRfIccEventIndEvent(void* indication, int, void* userData,
                                                     RadioEventCallback callback);
 
-/// RADIO_EVENT_NW_ETX_POWER: the transmit power that the modem reports in eighths.
+/// RADIO_EVENT_NW_ETX_POWER: the transmit power, which the modem reports in eighths.
 RADIO_API void vornRadioClientNotifyNwEtxPwrEvent(void* indication, int, void* userData,
                                                   RadioEventCallback callback);
 
-/// RADIO_EVENT_MSIM_SUB_MODE: a change of the multi-SIM sub-mode.
+/// RADIO_EVENT_MSIM_SUB_MODE: a change of how the modem serves several SIM cards.
 RADIO_API void vornRadioClientNotifyMsimSubModeEvent(void* indication, int, void* userData,
                                                      RadioEventCallback callback);
 
-/// Delivers nothing.
+/// RADIO_EVENT_FREQ_HOPPING has no record: nothing is delivered.
 RADIO_API void vornRadioClientNotifyFreqHoppingEvent(void* indication, int, void* userData,
                                                      RadioEventCallback callback);
 
-/// RADIO_EVENT_DATA_IFUP_PACKET_ROUTE: how the packets of a new data interface travel.
+/// RADIO_EVENT_DATA_IFUP_PACKET_ROUTE: the route of the packets of a new network interface.
 RADIO_API void vornRadioClientNotifyDataIfupPacketRouteEvent(void* indication, int, void* userData,
                                                              RadioEventCallback callback);
 

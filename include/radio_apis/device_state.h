@@ -10,7 +10,7 @@
 
 /// Result of requests whose answer is no more than the modem's verdict.
 struct RadioModemVerdict {
-    uint32_t failure; ///< whether the modem reported a failure, 1 or 0 \failure
+    uint32_t failure; ///< whether the modem reported a failure: 1, otherwise 0 \failure
 };
 
 /// Result of radioGetFeatureState: the state of a modem feature.
@@ -20,11 +20,11 @@ struct RadioFeatureState {
 
 /// Result of radioSendDeviceStateExt: what the modem made of the state.
 struct RadioDeviceStateExt {
-    uint32_t result;        ///< the modem's result code; 0: success \failure
-    int32_t deviceStateExt; ///< extended state that the modem now assumes, as it defines it
+    uint32_t result;        ///< the modem's result code; 0 means success \failure
+    int32_t deviceStateExt; ///< extended state of the device that the modem now assumes
 };
 
-inline constexpr unsigned kRadioMaxSidoIssueValues = 20; ///< values of one configuration
+inline constexpr unsigned kRadioMaxSidoIssueValues = 20; ///< values in one configuration
 
 extern "C" {
 
@@ -46,14 +46,14 @@ RADIO_API int radioSetMicroMotionState(int microMotionState, int multiplier, voi
 
 /// Tells the modem whether it should keep in step with the application processor.
 ///
-/// @param sync  whether to keep in step, as the modem defines it
+/// @param sync  whether the modem should keep in step, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetSyncWithAp(int sync, void* userData, RadioRequestCallback callback);
 
 /// Switches a modem feature.
 ///
-/// @param feature  feature, as the modem numbers it
+/// @param feature  modem feature, as the modem numbers it
 /// @param state    state of the feature, as the modem defines it
 /// \verdict
 /// \sent
@@ -61,17 +61,17 @@ RADIO_API int radioSetFeatureState(int feature, int state, void* userData, Radio
 
 /// The state of a modem feature.
 ///
-/// @param feature  feature, as the modem numbers it
+/// @param feature  modem feature, as the modem numbers it
 /// \fills{featureState}
 /// \sent
 RADIO_API int radioGetFeatureState(int feature, void* userData, RadioRequestCallback callback);
 
 /// Runs one of the modem's prepared cases.
 ///
-/// @param caseId  case, as the modem numbers it
-/// @param param1  first parameter of the case
-/// @param param2  second parameter of the case
-/// @param param3  third parameter of the case
+/// @param caseId  prepared case, as the modem numbers it
+/// @param param1  first parameter of the case, as the modem defines it
+/// @param param2  second parameter of the case, as the modem defines it
+/// @param param3  third parameter of the case, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioDispatchCase(unsigned int caseId, int param1, int param2, int param3, void* userData,
@@ -79,24 +79,26 @@ RADIO_API int radioDispatchCase(unsigned int caseId, int param1, int param2, int
 
 /// Sets the values of one kind of diagnosis.
 ///
-/// @param type    kind of diagnosis, as the modem defines it
-/// @param values  values, as the modem defines them \range{0 to 65535} \countedby{count}; may be null when `count` is 0
+/// @param type    kind of diagnosis, as the modem numbers it
+/// @param values  values of the diagnosis, as the modem defines them \range{0 to 65535} \countedby{count}; may be
+///                null when `count` is 0
 /// @param count   number of values
 /// \verdict
 /// \sentor{11 for null values or too many of them}
 RADIO_API int radioSetDiagnoseConfig(unsigned int type, int* values, unsigned int count, void* userData,
                                      RadioRequestCallback callback);
 
-/// Configures the detection of issues of the supply's single-inductor dual-output converter.
+/// Configures the detection of issues of the power supply's converter (SIDO). It has a single inductor and dual
+/// outputs.
 ///
-/// @param values  values, as the modem defines them \range{0 to 20} \countedby{count}; not null
+/// @param values  values of the detection, as the modem defines them \range{0 to 20} \countedby{count}; never null
 /// @param count   number of values
 /// \verdict
 /// \sentor{11 for null values or too many of them}
 RADIO_API int radioSetSidoIssueConfig(int* values, unsigned int count, void* userData,
                                       RadioRequestCallback callback);
 
-/// Tells the modem an extended state of the device.
+/// Tells the modem the extended state of the device.
 ///
 /// @param deviceStateExt  extended state of the device, as the modem defines it
 /// \fills{deviceStateExt}
@@ -112,15 +114,15 @@ RADIO_API int radioSetImbState(int state, void* userData, RadioRequestCallback c
 
 /// Tells the modem how the device's screen is folded.
 ///
-/// @param state  how the screen is folded, as the modem numbers it
+/// @param state  state of the folding screen, as the modem numbers it
 /// \command
 /// \sent
 RADIO_API int radioUpdateFoldScreenStatus(int state, void* userData, RadioRequestCallback callback);
 
 /// Sets the software version number of the device's identity (IMEISV, 3GPP TS 23.003).
 ///
-/// @param svn  software version number; sent in hexadecimal, with two digits or more: 10 is sent as "0a". An identity
-///             has two decimal digits there: for 42 give 0x42
+/// @param svn  software version number, sent as two hexadecimal digits or more: 10 as 0a, 0x10 as 10. An identity
+///             has two decimal digits there, so give 42 as 0x42
 /// \command
 /// \sent
 RADIO_API int radioSetImeiSvn(int svn, void* userData, RadioRequestCallback callback);

@@ -9,9 +9,9 @@
 #include <cstdint>
 #include <vector>
 
-inline constexpr unsigned kRadioMaxIdcOffsets = 20; ///< entries of the offset table in one request
+inline constexpr unsigned kRadioMaxIdcOffsets = 20; ///< offsets in one request
 
-/// One entry of the offset table.
+/// One entry of the table of offsets.
 struct RadioIdcOffsetConfig {
     int32_t f0; ///< first value, as the modem defines it \range{0 to 255}; the low 8 bits are sent
     int32_t f1; ///< second value, as the modem defines it
@@ -24,9 +24,9 @@ extern "C" {
 
 /// Sets the offsets that keep the modem off disturbed frequencies.
 ///
-/// @param rat      radio access technology, as the modem numbers it: 4 or 7
-/// @param offset   common offset, as the modem defines it \range{-32768 to 32767}; the low 16 bits are sent
-/// @param configs  offset table \range{0 to 20}; of more entries the first 20 are sent
+/// @param rat      radio access technology, as the modem numbers it: 4 or 7 \range{4 to 7}; others are refused
+/// @param offset   common offset, as the modem counts it \range{-32768 to 32767}; the low 16 bits are sent
+/// @param configs  table of offsets \range{0 to 20}; further entries are not sent
 /// \verdict
 /// \sentor{2 for another rat}
 RADIO_API int radioSetIdcOffset(int rat, int offset, const std::vector<RadioIdcOffsetConfig>& configs,

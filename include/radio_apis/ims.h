@@ -10,13 +10,13 @@
 
 /// When the audio quality of an IMS call is reported. As on the wire.
 struct RadioImsAudioQualityThreshold {
-    int32_t values[22]; ///< thresholds of audio quality, as the modem defines them
+    int32_t values[22]; ///< thresholds of audio quality, as the modem defines them; sent in this order
 };
 static_assert(sizeof(RadioImsAudioQualityThreshold) == 88);
 
 /// When the modem prefers another cell. As on the wire.
 struct RadioAdaptiveHandoverThreshold {
-    int32_t values[6]; ///< thresholds of the handover, as the modem defines them
+    int32_t values[6]; ///< thresholds of handover, as the modem defines them; sent in this order
 };
 static_assert(sizeof(RadioAdaptiveHandoverThreshold) == 24);
 
@@ -29,20 +29,20 @@ static_assert(sizeof(RadioImsRtpInfo) == 8);
 
 /// When the quality of an RTP session is reported. As on the wire.
 struct RadioImsRtpThresholdInfo {
-    int32_t values[9]; ///< thresholds of RTP quality, as the modem defines them
+    int32_t values[9]; ///< thresholds of RTP quality, as the modem defines them; sent in this order
 };
 static_assert(sizeof(RadioImsRtpThresholdInfo) == 36);
 
 /// Result of radioGetImsUssdEnabled: whether supplementary services go over IMS.
 struct RadioImsUssd {
-    int32_t enabled; ///< supplementary services over IMS \values{0: off, 1: on}
+    int32_t enabled; ///< whether supplementary services go over IMS \values{0: off, 1: on}
 };
 
 extern "C" {
 
 /// Sets when the audio quality of an IMS call is reported.
 ///
-/// @param threshold  thresholds of audio quality
+/// @param threshold  thresholds of audio quality; sent as they are
 /// \verdict
 /// \sent
 RADIO_API int radioSetImsAudioQualityThreshold(const RadioImsAudioQualityThreshold& threshold, void* userData,
@@ -50,7 +50,7 @@ RADIO_API int radioSetImsAudioQualityThreshold(const RadioImsAudioQualityThresho
 
 /// Sets when the modem prefers another cell.
 ///
-/// @param threshold  thresholds of the handover
+/// @param threshold  thresholds of handover; sent as they are
 /// \verdict
 /// \sent
 RADIO_API int radioSetAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThreshold& threshold,
@@ -58,14 +58,14 @@ RADIO_API int radioSetAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThres
 
 /// Tells the modem of an RTP session of an IMS call.
 ///
-/// @param info  session, and its state
+/// @param info  the RTP session; sent as it is
 /// \verdict
 /// \sent
 RADIO_API int radioSetImsRtpInfo(const RadioImsRtpInfo& info, void* userData, RadioRequestCallback callback);
 
 /// Sets when the quality of an RTP session is reported.
 ///
-/// @param info  thresholds of RTP quality
+/// @param info  thresholds of RTP quality; sent as they are
 /// \verdict
 /// \sent
 RADIO_API int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void* userData,
@@ -77,18 +77,18 @@ RADIO_API int radioSetImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void
 /// \sent
 RADIO_API int radioGetImsUssdEnabled(void* userData, RadioRequestCallback callback);
 
-/// Switches calls over Wi-Fi while roaming between cellular and Wi-Fi. To switch them on takes two commands, of which
-/// the second one's answer is told.
+/// Switches calls over Wi-Fi while roaming between cellular and Wi-Fi. Switching on takes two commands; the
+/// callback is told the answer to the second one only.
 ///
-/// @param enable  whether such calls are on
+/// @param enable  whether calls over Wi-Fi are on
 /// \command
 /// \sent
 RADIO_API int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCallback callback);
 
 /// Names the gateway of calls over Wi-Fi (ePDG, 3GPP TS 23.003).
 ///
-/// @param fqdn  fully qualified domain name of the gateway \range{0 to 224}; with more bytes the command is cut at its
-///              end without a word
+/// @param fqdn  fully qualified domain name of the gateway \range{0 to 224}; with more bytes the command is
+///              cut at its end without a word
 /// \command
 /// \sent{as for null, or a control character or double quote in the text}
 RADIO_API int radioSetCarrierOmacpFqdn(const char* fqdn, void* userData, RadioRequestCallback callback);

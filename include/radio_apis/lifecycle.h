@@ -24,12 +24,12 @@ extern "C" {
 /// that never called this addresses instance 0. Calling it again, on whichever thread, ends the instance's
 /// subscriptions of indications for everyone and keeps its event listeners.
 ///
-/// @param service   ignored
-/// @param instance  0, 1 or 2
+/// @param service   ignored: there is one service
+/// @param instance  the modem instance, which is the SIM slot: 0, 1 or 2
 /// @return 0 when the channel is open; 1 when the modem library could not be initialised (a later call tries
 ///         again), `instance` is above 2 or there was no memory (the thread then keeps its instance); 2 when the
 ///         device does not support the channel. After a failure of the channel the instance exists all the same,
-///         but its requests are refused, and those that return "0 once started" end in RADIO_APIS_FAILURE.
+///         but its requests are refused, and those that return "0 once started" end in RADIO_APIS_FAILURE
 RADIO_API int radioApisInit(RADIO_APIS_SERVICE_TYPE service, RADIO_SUBS_ID_TYPE instance);
 
 /// Ends the work of the calling thread's instance: its event listeners are dropped, and the subscriptions of
@@ -37,7 +37,7 @@ RADIO_API int radioApisInit(RADIO_APIS_SERVICE_TYPE service, RADIO_SUBS_ID_TYPE 
 /// Requests that are still on their way are answered all the same. No other thread may use the instance meanwhile,
 /// see the head of this file.
 ///
-/// @param service  ignored
+/// @param service  ignored: there is one service
 /// @return 0
 RADIO_API int radioApisReleaseService(RADIO_APIS_SERVICE_TYPE service);
 
@@ -51,7 +51,7 @@ RADIO_API int radioApisDeinit(void);
 /// radioApisInit. On a workstation the first listener is told the present state, too, when that is known; a later
 /// one first hears of the next change. On a device without the status library nothing is ever reported.
 ///
-/// @param service   ignored
+/// @param service   ignored: there is one service
 /// @param userData  handed to each call of `callback`
 /// @param callback  called with RADIO_APIS_SERVICE_MODEM and the new state; null is skipped
 /// @return 0, also when the same user data and callback were registered before; 1 without memory

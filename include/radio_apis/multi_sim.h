@@ -10,9 +10,9 @@
 
 /// Result of radioGetMsimSubModeState: how the modem serves several SIM cards.
 struct RadioMsimSubModeState {
-    uint32_t failure; ///< whether the modem reported a failure, 1 or 0 \failure
-    uint32_t subMode; ///< how the modem serves several SIM cards, as it numbers it \range{0 to 255}
-    uint32_t state;   ///< state of that mode, as the modem numbers it \range{0 to 255}
+    uint32_t failure; ///< whether the modem reported a failure: 1, otherwise 0 \failure
+    uint32_t subMode; ///< way to serve several SIM cards, as the modem numbers it \range{0 to 255}
+    uint32_t state;   ///< state of that way, as the modem numbers it \range{0 to 255}
 };
 
 extern "C" {
@@ -23,13 +23,12 @@ extern "C" {
 /// \sent
 RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback callback);
 
-/// Sets from which level on the modem prefers to serve both SIM cards at once (DSDA).
+/// Sets from which level on the modem prefers to serve both SIM cards at once (DSDA). With rat 4 the modem
+/// counts in quarters: thresholds are sent multiplied by 4, and only -8192 to 8191 fit the 16 bits that are sent.
 ///
-/// @param rat      radio access technology, as the modem numbers it: 4 or 7
-/// @param thresh1  first threshold, as the modem defines it \range{-32768 to 32767}; with rat 4 it is sent multiplied
-///                 by 4, and only -8192 to 8191 survive since 16 bits are sent
-/// @param thresh2  second threshold, as the modem defines it \range{-32768 to 32767}; with rat 4 it is sent multiplied
-///                 by 4, and only -8192 to 8191 survive since 16 bits are sent
+/// @param rat      radio access technology, as the modem numbers it: 4 or 7 \range{4 to 7}; others are refused
+/// @param thresh1  first threshold \range{-32768 to 32767}; with rat 4 it is sent multiplied by 4
+/// @param thresh2  second threshold \range{-32768 to 32767}; with rat 4 it is sent multiplied by 4
 /// \verdict
 /// \sentor{2 for another rat}
 RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData,
@@ -37,7 +36,7 @@ RADIO_API int radioSetDsdaPreferCustThresh(int rat, int thresh1, int thresh2, vo
 
 /// Sets how the modem is to serve several SIM cards.
 ///
-/// @param mode  how the modem is to serve several SIM cards, as it numbers it
+/// @param mode  way to serve several SIM cards, as the modem numbers it
 /// \command
 /// \sent
 RADIO_API int radioSetMsimSubModePref(int mode, void* userData, RadioRequestCallback callback);

@@ -1,7 +1,7 @@
 /// @file
 /// \domain{Packet routes}
 ///
-/// Which way packets take.
+/// Which way the packets of data connections take.
 #pragma once
 
 #include "radio_apis/result.h"
@@ -10,8 +10,8 @@
 
 /// Result of radioGetDataActPacketRoute and radioGetDataIfupPacketRoute.
 struct RadioPacketRoute {
-    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
-    uint32_t route;   ///< as the modem numbers it, 0 to 255
+    uint32_t failure; ///< whether the modem reported a failure: 1, otherwise 0 \failure
+    uint32_t route;   ///< route of the packets, as the modem numbers it \range{0 to 255}
 };
 
 extern "C" {

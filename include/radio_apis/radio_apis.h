@@ -5,11 +5,25 @@
 ///
 ///   - takes its arguments, then a user data pointer, then a callback, which must not be null;
 ///   - copies what it needs from its arguments before it returns;
-///   - returns 0 when the request was accepted - the callback is then called exactly once, on the thread that
-///     RadioRequestCallback tells - and another RADIO_APIS_RESULT when it was refused - the callback is then never
-///     called. Without an initialised instance, without memory, while the modem can't be reached, or when the
-///     arguments do not fit a message, it is refused with RADIO_APIS_FAILURE. Only a request that returns "0 once
-///     started" is accepted while the modem can't be reached: its callback gets RADIO_APIS_FAILURE.
+///   - returns 0 when the request was accepted: the callback is then called exactly once, on the thread that
+///     RadioRequestCallback tells, with the user data, a RADIO_APIS_RESULT and the record;
+///   - returns another RADIO_APIS_RESULT when the request was refused: the callback is then never called.
+///
+/// A request is refused with RADIO_APIS_FAILURE without an initialised instance, without memory, while the modem can't
+/// be reached, or when the arguments do not fit a message. Its description tells of further reasons.
+///
+/// The descriptions of requests use a few words over and over:
+///
+///   - "0 when handed to the modem": one message is on its way, and the modem's answer calls the callback.
+///   - "0 once started": the request takes several commands, or pauses in between. It is accepted also while the modem
+///     can't be reached: its callback then gets RADIO_APIS_FAILURE.
+///   - "The modem's verdict": RADIO_APIS_SUCCESS when the modem did what the request asks for, otherwise its failure.
+///   - "The modem's failure": the modem, or the way to it, did not take the request. The result is then the
+///     modem's own as RADIO_APIS_RESULT lists it, and there is no record.
+///   - "Whatever the modem said": a failure of the modem does not show in the result. Where the record has a member
+///     `failure` or `result`, that one tells it.
+///   - "The modem accepted" a command, or refused it: requests that become AT commands end with OK, or with an error.
+///   - "An empty record" carries nothing: all its bytes are zero.
 ///
 /// No function throws. lifecycle.h tells which ones may run at the same time, and what callbacks must not do.
 #pragma once

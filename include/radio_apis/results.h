@@ -26,60 +26,60 @@
 #include "radio_apis/service_mode.h"
 #include "radio_apis/sim.h"
 
-/// One record for all requests: each request's header tells which member of `rsp` it fills. Reading another
+/// One record for all requests: each request's description tells which member of `rsp` it fills. Reading another
 /// one gives bytes of the filled one. What an answer did not carry is zero. The record belongs to the library
 /// and is valid only while the callback runs.
 struct RadioApisResultType {
     union {
-        RadioLteCellInfo lteCellInfo;
-        RadioRrcStatus rrcStatus;
-        RadioServingCell servingCellInfo;
-        RadioAllCellInfo allCellInfo;
-        RadioModemVerdict microMotion;
-        RadioFeatureState featureState;
-        RadioSarDsiState sarDsiState;
-        RadioSimTrayStatus simTrayStatus;
-        RadioSimLockData simLockData;
-        RadioAtomData atomData;
-        RadioNecData necData;
-        RadioMetricsData metricsData;
-        RadioProtocolInfo protocolInfo;
-        RadioPolicyConfigListType indicationPolicy;
-        RadioIndicationReportList indicationReports;
-        RadioModemHeapList modemHeapList;
-        RadioModemVerdict powerStatistics;
-        RadioQosData qosData;
-        RadioSceneModeList sceneModes;
-        RfIccInfo rfIccInfo;
-        RadioNetworkActionState networkActionState;
-        RadioServiceMode serviceModeInfo;
-        RadioCentricMode centricModeInfo;
-        RadioAtValues atValues;
-        RadioSimCardType simCardType;
-        RadioSimlockCategory simlockCategory;
-        RadioQrxlvmin qrxlvmin;
-        RadioNrcaConfig nrcaConfig;
-        RadioBwpConfig bwpConfig;
-        RadioCaStatus caInfo;
-        RadioDssConfig dssConfig;
-        RadioImsUssd imsUssd;
-        RadioBandPrefer bandPrefer;
-        RadioBandModes bandModes;
-        RadioBandInfo bandInfo;
-        RadioBandTxNum bandTxNumInfo;
-        RadioNvItem nvItemData;
-        RadioModemVerdict nvWrite;
-        RadioOperationMode operationMode;
-        RadioMsimSubModeState msimSubModeState;
-        RadioDeviceStateExt deviceStateExt;
-        RadioModemVerdict cellBarring;
-        RadioTxCarkit txCarkit;
-        RadioUimAuthentication uimAuthentication;
-        RadioImsRtpRedunCapability imsRtpRedunCapability;
-        RadioImsRtpRedunPublicKey imsRtpRedunPublicKey;
-        RadioImsRtpRedunRemotePublicKey imsRtpRedunRemotePublicKey;
-        RadioImsRtpRedunControl imsRtpRedunControl;
-        RadioImsRtpRedunDataPath imsRtpRedunDataPath;
-        RadioPacketRoute packetRoute;
-    } rsp; ///< the member that the request fills
+        RadioLteCellInfo lteCellInfo;                     ///< of radioGetLteCellInfo
+        RadioRrcStatus rrcStatus;                         ///< of radioGetRRCStatus
+        RadioServingCell servingCellInfo;                 ///< of radioGetServingCellularCellInfo
+        RadioAllCellInfo allCellInfo;                     ///< of radioGetAllCellularCellInfo
+        RadioModemVerdict microMotion;                    ///< of radioSetMicroMotionState
+        RadioFeatureState featureState;                   ///< of radioGetFeatureState
+        RadioSarDsiState sarDsiState;                     ///< of radioGetSarDsiState
+        RadioSimTrayStatus simTrayStatus;                 ///< of radioGetSimTrayStatus
+        RadioSimLockData simLockData;                     ///< of the SIM lock requests \confidential
+        RadioAtomData atomData;                           ///< of radioGetAtomData
+        RadioNecData necData;                             ///< of radioGetNecData
+        RadioMetricsData metricsData;                     ///< of radioGetMetricsData
+        RadioProtocolInfo protocolInfo;                   ///< of radioGetModemProtocolInfo
+        RadioPolicyConfigListType indicationPolicy;       ///< of radioGetModemIndicationPolicy
+        RadioIndicationReportList indicationReports;      ///< of radioGetIndicationReportRecords
+        RadioModemHeapList modemHeapList;                 ///< of radioGetModemHeapList
+        RadioModemVerdict powerStatistics;                ///< of radioGetPowerStatistics
+        RadioQosData qosData;                             ///< of radioGetQosData
+        RadioSceneModeList sceneModes;                    ///< of radioGetSceneMode
+        RfIccInfo rfIccInfo;                              ///< of radioGetRfIccInfo
+        RadioNetworkActionState networkActionState;       ///< of radioGetNetworkActionState
+        RadioServiceMode serviceModeInfo;                 ///< of radioGetServiceMode
+        RadioCentricMode centricModeInfo;                 ///< of radioGetCentricMode
+        RadioAtValues atValues;                           ///< of queries that AT commands answer with numbers
+        RadioSimCardType simCardType;                     ///< of radioGetSimCardType
+        RadioSimlockCategory simlockCategory;             ///< of radioGetSimlockCategoryData
+        RadioQrxlvmin qrxlvmin;                           ///< of radioGetQrxlvminCfg
+        RadioNrcaConfig nrcaConfig;                       ///< of radioGetNrcaConfig and radioReadNRCAConfig
+        RadioBwpConfig bwpConfig;                         ///< of radioGetBwpConfig
+        RadioCaStatus caInfo;                             ///< of radioGetCaStatus
+        RadioDssConfig dssConfig;                         ///< of radioReadDssConfig
+        RadioImsUssd imsUssd;                             ///< of radioGetImsUssdEnabled
+        RadioBandPrefer bandPrefer;                       ///< of radioGetBandPrefer
+        RadioBandModes bandModes;                         ///< of radioGetAvailableBandModes
+        RadioBandInfo bandInfo;                           ///< of radioGetBand
+        RadioBandTxNum bandTxNumInfo;                     ///< of radioGetBandsTxNum
+        RadioNvItem nvItemData;                           ///< of radioReadNv
+        RadioModemVerdict nvWrite;                        ///< of radioWriteNv
+        RadioOperationMode operationMode;                 ///< of radioGetOperationMode
+        RadioMsimSubModeState msimSubModeState;           ///< of radioGetMsimSubModeState
+        RadioDeviceStateExt deviceStateExt;               ///< of radioSendDeviceStateExt
+        RadioModemVerdict cellBarring;                    ///< of radioConfigCellBarringParam
+        RadioTxCarkit txCarkit;                           ///< of radioGetTxCarkit
+        RadioUimAuthentication uimAuthentication;         ///< of radioRequestIccSimAuthentication
+        RadioImsRtpRedunCapability imsRtpRedunCapability; ///< of radioGetImsRtpRedunCapability
+        RadioImsRtpRedunPublicKey imsRtpRedunPublicKey;   ///< of radioGetImsRtpRedunPublicKey
+        RadioImsRtpRedunRemotePublicKey imsRtpRedunRemotePublicKey; ///< of radioSetImsRtpRedunRemotePublicKey
+        RadioImsRtpRedunControl imsRtpRedunControl;                 ///< of radioSetImsRtpRedunControlInfo
+        RadioImsRtpRedunDataPath imsRtpRedunDataPath;               ///< of radioSyncImsRtpRedunDataPathConfig
+        RadioPacketRoute packetRoute;                               ///< of both requests for packet routes
+    } rsp;                                                          ///< the member that the request fills
 };

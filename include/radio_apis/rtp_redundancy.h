@@ -9,84 +9,90 @@
 
 #include <cstdint>
 
-inline constexpr unsigned kRadioMaxRtpRedunKeyBytes = 256;       ///< of a key that the modem gives
-inline constexpr unsigned kRadioMaxRtpRedunRemoteKeyBytes = 130; ///< in the record; 129 of them can be sent
+inline constexpr unsigned kRadioMaxRtpRedunKeyBytes = 256;       ///< bytes of the modem's longest key
+inline constexpr unsigned kRadioMaxRtpRedunRemoteKeyBytes = 130; ///< of which 129 can be sent
 inline constexpr unsigned kRadioMaxRtpRedunAddressBytes = 64;    ///< bytes of the longest address
 
 /// Which public key is asked for.
 struct RadioImsRtpRedunKeyInfoType {
-    int32_t id;      ///< the call's identifier
-    int32_t keyType; ///< sent when it is 2, otherwise the modem chooses
+    int32_t id; ///< identifier of the call
+    /// kind of the key, as the modem defines it \values{0: chosen by the modem}; 2 is sent, with any other number the
+    /// modem chooses
+    int32_t keyType;
 };
 
 /// The other side's public key.
 struct RadioImsRtpRedunPublicKeyInfoType {
-    int32_t id;                                   ///< the call's identifier
-    uint16_t keyLength;                           ///< bytes of `key`; of more than 129, 129 are sent
-    uint8_t key[kRadioMaxRtpRedunRemoteKeyBytes]; ///< the first `keyLength` bytes count
+    int32_t id;         ///< identifier of the call
+    uint16_t keyLength; ///< number of bytes in `key`
+    /// public key of the other side \range{0 to 129} \countedby{keyLength}; of more bytes the first 129 are sent
+    uint8_t key[kRadioMaxRtpRedunRemoteKeyBytes];
 };
 
 /// What is to become of a call's redundancy.
 struct RadioImsRtpRedunControlInfoType {
-    int32_t id;     ///< the call's identifier
-    int32_t action; ///< its low byte is sent when it is 1 or 2, as the modem defines them
+    int32_t id; ///< identifier of the call
+    /// what is to become of the redundancy, as the modem defines it \range{0 to 2} \values{0: not sent}; the low 8 bits
+    /// are sent when they are 1 or 2
+    int32_t action;
 };
 
 /// Which data path is asked for.
 struct RadioImsRtpRedunDataPathConfigType {
-    int32_t type; ///< as the modem defines it; its low byte is sent
+    /// kind of the data path, as the modem defines it \range{0 to 255}; the low 8 bits are sent
+    int32_t type;
 };
 
 /// Result of radioGetImsRtpRedunCapability.
 struct RadioImsRtpRedunCapability {
-    uint32_t failure;    ///< 1 when the modem reported a failure, otherwise 0
-    uint32_t capability; ///< as the modem defines it, 0 to 255
+    uint32_t failure;    ///< whether the modem reported a failure: 1, otherwise 0 \failure
+    uint32_t capability; ///< what the modem can do, as it defines it \range{0 to 255}
 };
 
 /// Result of radioGetImsRtpRedunPublicKey.
 struct RadioImsRtpRedunPublicKey {
-    uint32_t result;                        ///< the modem's result code; 0: success
-    uint32_t status;                        ///< as the modem defines it
-    int32_t id;                             ///< the call's identifier
-    int32_t keyType;                        ///< as the modem defines it
-    uint32_t keyLength;                     ///< bytes of `key`; a longer one is cut
-    uint8_t key[kRadioMaxRtpRedunKeyBytes]; ///< the first `keyLength` bytes count
+    uint32_t result;                        ///< the modem's result code; 0: success \failure
+    uint32_t status;                        ///< status of the redundancy, as the modem defines it
+    int32_t id;                             ///< identifier of the call
+    int32_t keyType;                        ///< kind of the key, as the modem defines it
+    uint32_t keyLength;                     ///< number of bytes in `key`; a longer key is cut
+    uint8_t key[kRadioMaxRtpRedunKeyBytes]; ///< public key of the modem \countedby{keyLength}
 };
 
 /// Result of radioSetImsRtpRedunRemotePublicKey.
 struct RadioImsRtpRedunRemotePublicKey {
-    uint32_t result;  ///< the modem's result code; 0: success
-    uint32_t status;  ///< as the modem defines it
-    int32_t id;       ///< the call's identifier
-    uint32_t keyType; ///< as the modem defines it, 0 to 255
+    uint32_t result;  ///< the modem's result code; 0: success \failure
+    uint32_t status;  ///< status of the redundancy, as the modem defines it
+    int32_t id;       ///< identifier of the call
+    uint32_t keyType; ///< kind of the key, as the modem defines it \range{0 to 255}
 };
 
 /// Result of radioSetImsRtpRedunControlInfo.
 struct RadioImsRtpRedunControl {
-    uint32_t result; ///< the modem's result code; 0: success
-    uint32_t status; ///< as the modem defines it
-    int32_t id;      ///< the call's identifier
+    uint32_t result; ///< the modem's result code; 0: success \failure
+    uint32_t status; ///< status of the redundancy, as the modem defines it
+    int32_t id;      ///< identifier of the call
 };
 
 /// An end of the data path.
 struct RadioImsRtpRedunEndpoint {
-    uint32_t port;                                  ///< UDP port, 0 to 65535
-    uint32_t addressLength;                         ///< bytes of `address`; a longer one is cut
-    uint8_t address[kRadioMaxRtpRedunAddressBytes]; ///< the first `addressLength` bytes count
+    uint32_t port;                                  ///< UDP port \range{0 to 65535}
+    uint32_t addressLength;                         ///< number of bytes in `address`; a longer one is cut
+    uint8_t address[kRadioMaxRtpRedunAddressBytes]; ///< IP address \countedby{addressLength}
 };
 
 /// Result of radioSyncImsRtpRedunDataPathConfig.
 struct RadioImsRtpRedunDataPath {
-    uint32_t result;                  ///< the modem's result code; 0: success
-    uint32_t type;                    ///< as the modem defines it, 0 to 255
-    RadioImsRtpRedunEndpoint ends[2]; ///< in the modem's order
-    uint32_t value1;                  ///< as the modem defines it, 0 to 255
-    uint32_t value2;                  ///< as the modem defines it, 0 to 255
+    uint32_t result;                  ///< the modem's result code; 0: success \failure
+    uint32_t type;                    ///< kind of the data path, as the modem defines it \range{0 to 255}
+    RadioImsRtpRedunEndpoint ends[2]; ///< both ends of the data path, in the modem's order
+    uint32_t value1;                  ///< first value, as the modem defines it \range{0 to 255}
+    uint32_t value2;                  ///< second value, as the modem defines it \range{0 to 255}
 };
 
 extern "C" {
 
-/// Whether the modem can do it.
+/// Whether the modem can send a call's media redundantly.
 ///
 /// \fills{imsRtpRedunCapability}
 /// \sent
@@ -100,7 +106,7 @@ RADIO_API int radioGetImsRtpRedunCapability(void* userData, RadioRequestCallback
 RADIO_API int radioGetImsRtpRedunPublicKey(const RadioImsRtpRedunKeyInfoType& info, void* userData,
                                            RadioRequestCallback callback);
 
-/// Tells the modem the other side's public key.
+/// Tells the modem the other side's public key for a call.
 ///
 /// @param info  the call and the key
 /// \fills{imsRtpRedunRemotePublicKey}
@@ -110,7 +116,7 @@ RADIO_API int radioSetImsRtpRedunRemotePublicKey(const RadioImsRtpRedunPublicKey
 
 /// Controls a call's redundancy.
 ///
-/// @param info  the call and what is to become of it
+/// @param info  the call and what is to become of its redundancy
 /// \fills{imsRtpRedunControl}
 /// \sent
 RADIO_API int radioSetImsRtpRedunControlInfo(const RadioImsRtpRedunControlInfoType& info, void* userData,

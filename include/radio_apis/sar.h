@@ -1,7 +1,7 @@
 /// @file
 /// \domain{Specific absorption rate}
 ///
-/// Specific absorption rate: what limits transmit power near a body.
+/// Specific absorption rate (SAR): what limits the transmit power near a body, and the sensor that notices one.
 #pragma once
 
 #include "radio_apis/result.h"
@@ -17,20 +17,20 @@ extern "C" {
 
 /// Sets the state of one source of SAR decisions.
 ///
-/// @param source  which source, passed through
-/// @param state   its state, passed through
+/// @param source  source of SAR decisions, as the modem numbers it
+/// @param state   state of the source, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetSarState(int source, int state, void* userData, RadioRequestCallback callback);
 
-/// Sets the device state index that chooses the SAR table.
+/// Sets the device state index, which chooses the SAR table.
 ///
-/// @param state  the index, passed through
+/// @param state  device state index, as the modem numbers it
 /// \verdict
 /// \sent
 RADIO_API int radioSetSarDsiState(int state, void* userData, RadioRequestCallback callback);
 
-/// The device state index.
+/// The device state index, which chooses the SAR table.
 ///
 /// \fills{sarDsiState}
 /// \sent
@@ -38,15 +38,15 @@ RADIO_API int radioGetSarDsiState(void* userData, RadioRequestCallback callback)
 
 /// Switches real-time SAR.
 ///
-/// @param mode  the mode, passed through
+/// @param mode  mode of real-time SAR, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetRtSarMode(int mode, void* userData, RadioRequestCallback callback);
 
-/// Tells the modem the region whose SAR limits hold. The modem gets the same message as from
+/// Tells the modem the region whose SAR limits apply. The modem gets the same message as from
 /// radioSetPowerBoostState: it can't tell the two apart.
 ///
-/// @param regionCode  the region's code, passed through
+/// @param regionCode  code of the region, as the modem defines it
 /// \verdict
 /// \sent
 RADIO_API int radioSetSarRegionCode(int regionCode, void* userData, RadioRequestCallback callback);
@@ -65,12 +65,12 @@ RADIO_API int radioDisconnectSarSensor(void* userData, RadioRequestCallback call
 
 /// Chooses a channel of the SAR sensor.
 ///
-/// @param channel  as the modem numbers it
+/// @param channel  channel of the sensor, as the modem numbers it
 /// \command
 /// \sent
 RADIO_API int radioSetSarSensorChannel(int channel, void* userData, RadioRequestCallback callback);
 
-/// What the SAR sensor says.
+/// The readings of the SAR sensor.
 ///
 /// \asks{atValues, the modem refused or answered no field}
 /// \sent

@@ -11,38 +11,48 @@
 
 /// Result of radioGetSimTrayStatus.
 struct RadioSimTrayStatus {
-    uint32_t count;    ///< trays that the modem told of, at most 2
-    int32_t status[2]; ///< per tray, as the modem defines it
+    uint32_t count;    ///< number of trays that the modem told of, at most 2
+    int32_t status[2]; ///< status of each tray, as the modem defines it \countedby{count}
 };
 
-/// Result of the SIM lock requests: what the modem sent back.
+/// Result of the SIM lock requests: what the modem sent back, the lock server's. \confidential
 using RadioSimLockData = RadioBlob<512>;
 
 inline constexpr unsigned kRadioMaxAuthenticationBytes = 256; ///< bytes of the longest challenge or answer
 
 /// A challenge for the SIM card (3GPP TS 31.102, AUTHENTICATE).
 struct RadioUimAuthenticateReqInfo {
-    uint8_t authData[kRadioMaxAuthenticationBytes]; ///< the command's data: each value behind its length
-    uint16_t authDataLen;                           ///< bytes of it, at most 256
+    /// data of the AUTHENTICATE command, each value behind its length \called{data} \countedby{authDataLen}
+    /// \confidential
+    uint8_t authData[kRadioMaxAuthenticationBytes];
+    /// number of bytes of the data \called{length} \range{0 to 256}
+    uint16_t authDataLen;
 };
 
 /// Result of radioRequestIccSimAuthentication.
 struct RadioUimAuthentication {
-    uint32_t failure; ///< 1 when the modem reported a failure, otherwise 0
-    uint32_t length;  ///< bytes of `content`, as many as the modem counts; more are cut
-    uint8_t content[kRadioMaxAuthenticationBytes]; ///< the card's answer
+    uint32_t failure; ///< whether the modem reported a failure: 1, otherwise 0 \failure
+    uint32_t length;  ///< number of bytes in `content`; a longer answer is cut
+    uint8_t content[kRadioMaxAuthenticationBytes]; ///< the card's answer \countedby{length} \confidential
+};
+
+/// Kinds of SIM cards.
+enum RadioSimCardKind : int32_t {
+    RADIO_SIM_CARD_ORDINARY = 0, ///< a card of any other network
+    RADIO_SIM_CARD_TEST = 1      ///< a card of the test network 001/01
 };
 
 /// Result of radioGetSimCardType.
 struct RadioSimCardType {
-    int32_t type;  ///< 1: a card of the test network 001/01, 0: any other
-    char imsi[16]; ///< at most 15 digits (3GPP TS 23.003)
+    int32_t type;  ///< kind of the SIM card \values{RadioSimCardKind}
+    char imsi[16]; ///< IMSI of the card, at most 15 digits (3GPP TS 23.003) \confidential
 };
 
 /// Result of radioGetSimlockCategoryData.
 struct RadioSimlockCategory {
-    uint32_t length;     ///< characters
-    char category[1024]; ///< as the modem writes it; a longer one is cut
+    uint32_t length; ///< number of characters in `category`
+    /// categories of the SIM lock, as the modem writes them \countedby{length}; a longer text is cut
+    char category[1024];
 };
 
 extern "C" {
@@ -57,8 +67,8 @@ RADIO_API int radioGetSimTrayStatus(void* userData, RadioRequestCallback callbac
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data    the bytes; not null
-/// @param length  their number, 1 to 2048
+/// @param data    carrier lock, as the lock server made it \range{1 to 2048} \countedby{length} \confidential
+/// @param length  number of bytes in `data`
 /// \verdictwith{simLockData}
 /// \sentor{11 for null data or another length}
 RADIO_API int radioSetCarrierLockBlob(const unsigned char* data, unsigned int length, void* userData,
@@ -68,8 +78,8 @@ RADIO_API int radioSetCarrierLockBlob(const unsigned char* data, unsigned int le
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data    the bytes; not null
-/// @param length  their number, 1 to 512
+/// @param data    new status, as the lock server made it \range{1 to 512} \countedby{length} \confidential
+/// @param length  number of bytes in `data`
 /// \verdictwith{simLockData}
 /// \sentor{11 for null data or another length}
 RADIO_API int radioSetCarrierLockStatus(const unsigned char* data, unsigned int length, void* userData,
@@ -79,8 +89,8 @@ RADIO_API int radioSetCarrierLockStatus(const unsigned char* data, unsigned int 
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data    the bytes; not null
-/// @param length  their number, 1 to 512
+/// @param data    question, as the lock server made it \range{1 to 512} \countedby{length} \confidential
+/// @param length  number of bytes in `data`
 /// \verdictwith{simLockData}
 /// \sentor{11 for null data or another length}
 RADIO_API int radioGetCarrierLockStatus(const unsigned char* data, unsigned int length, void* userData,
@@ -90,8 +100,8 @@ RADIO_API int radioGetCarrierLockStatus(const unsigned char* data, unsigned int 
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data    the bytes; not null
-/// @param length  their number, 1 to 1024
+/// @param data    region lock, as the lock server made it \range{1 to 1024} \countedby{length} \confidential
+/// @param length  number of bytes in `data`
 /// \verdictwith{simLockData}
 /// \sentor{11 for null data or another length}
 RADIO_API int radioSetRegionLockBlob(const unsigned char* data, unsigned int length, void* userData,
@@ -101,8 +111,8 @@ RADIO_API int radioSetRegionLockBlob(const unsigned char* data, unsigned int len
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data    the bytes; not null
-/// @param length  their number, 1 to 512
+/// @param data    new status, as the lock server made it \range{1 to 512} \countedby{length} \confidential
+/// @param length  number of bytes in `data`
 /// \verdictwith{simLockData}
 /// \sentor{11 for null data or another length}
 RADIO_API int radioSetRegionLockStatus(const unsigned char* data, unsigned int length, void* userData,
@@ -112,8 +122,8 @@ RADIO_API int radioSetRegionLockStatus(const unsigned char* data, unsigned int l
 ///
 /// The bytes are the lock server's; the library only carries them.
 ///
-/// @param data    the bytes; not null
-/// @param length  their number, 1 to 512
+/// @param data    question, as the lock server made it \range{1 to 512} \countedby{length} \confidential
+/// @param length  number of bytes in `data`
 /// \verdictwith{simLockData}
 /// \sentor{11 for null data or another length}
 RADIO_API int radioGetRegionLockStatus(const unsigned char* data, unsigned int length, void* userData,
@@ -121,7 +131,7 @@ RADIO_API int radioGetRegionLockStatus(const unsigned char* data, unsigned int l
 
 /// Has the SIM card answer a challenge of the network.
 ///
-/// @param info  the challenge
+/// @param info  challenge for the SIM card
 /// \fills{uimAuthentication}
 /// \sentor{11 for more than 256 bytes}
 RADIO_API int radioRequestIccSimAuthentication(const RadioUimAuthenticateReqInfo& info, void* userData,
@@ -133,15 +143,15 @@ RADIO_API int radioRequestIccSimAuthentication(const RadioUimAuthenticateReqInfo
 /// \sent
 RADIO_API int radioSetUimPowerUp(void* userData, RadioRequestCallback callback);
 
-/// Powers the SIM card down: until it is powered up again the modem works as without one.
+/// Powers the SIM card down. Until it is powered up again the modem works as without one.
 ///
 /// \verdict
 /// \sent
 RADIO_API int radioSetUimPowerDown(void* userData, RadioRequestCallback callback);
 
-/// What kind of SIM card it is.
+/// The kind of the SIM card, and its IMSI.
 ///
-/// @param option  not sent
+/// @param option  reserved \unused
 /// \asks{simCardType, the answer is no IMSI\, as without a card}
 /// \sent
 RADIO_API int radioGetSimCardType(int option, void* userData, RadioRequestCallback callback);
@@ -152,7 +162,7 @@ RADIO_API int radioGetSimCardType(int option, void* userData, RadioRequestCallba
 /// \sent
 RADIO_API int radioGetSimlockCategoryData(void* userData, RadioRequestCallback callback);
 
-/// Not supported.
+/// The status of the SIM lock (not supported by the library).
 ///
 /// \unsupported
 RADIO_API int radioGetSimlockLockStatus(void* userData, RadioRequestCallback callback);

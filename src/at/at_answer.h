@@ -3,6 +3,7 @@
 
 #include "at/at_callbacks.h"
 
+#include <charconv>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -10,12 +11,19 @@
 
 namespace at {
 
+/// Interprets accepted answers: `read(answer, record)` tells whether they held what was asked for. A refused one is a
+/// failure.
+template <typename Read>
+AtResponseCallback::Function ifAccepted(Read read)
+{
+    return [=](const mindroid::sp<mindroid::Parcel>& answer, RadioApisResultType* record) {
+        return answer->getBoolean() && read(*answer, *record) ? RADIO_APIS_SUCCESS : RADIO_APIS_FAILURE;
+    };
+}
+
 /// Takes the next field off a parsed answer: its value when it is an integer, nothing for another kind. Throws
 /// when there is none.
 std::optional<int32_t> nextInteger(mindroid::Parcel& answer);
-
-/// The first field of an accepted answer when it is an integer; nothing for every other answer.
-std::optional<int32_t> firstInteger(const mindroid::sp<mindroid::Parcel>& answer);
 
 /// Interprets the answer to the question for one value. `store` is given the answer's first field, when that is
 /// an integer, and returns what it kept; a field of another kind leaves the record zero and is a success, too.
@@ -29,11 +37,18 @@ AtResponseCallback::Function severalValues(int least);
 
 using Pieces = std::vector<std::string_view>;
 
-/// What is between the commas of an accepted answer's raw text, without the blanks and quotes around it;
-/// nothing when the answer was refused. Throws when it has no data.
-std::optional<Pieces> acceptedPieces(const mindroid::sp<mindroid::Parcel>& answer);
+/// What is between the commas of an accepted answer's raw text, without the blanks and quotes around it. Throws when
+/// there is none.
+Pieces nextPieces(mindroid::Parcel& answer);
 
-/// A decimal number; nothing when the piece is none.
-std::optional<int32_t> toInteger(std::string_view piece);
+/// The whole text as a number; nothing when it is none, or one that does not fit.
+template <typename Number>
+std::optional<Number> toNumber(std::string_view digits, int base = 10)
+{
+    Number number = 0;
+    const char* end = digits.data() + digits.size();
+    const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
+    return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
+}
 
 } // namespace at

@@ -3,11 +3,11 @@
 
 #include "at/at_callbacks.h"
 #include "at/vorn_at_client.h"
+#include "channel/vorn_client.h"
 #include "mindroid/exception.h"
 #include "mindroid/promise.h"
 #include "mindroid/string.h"
 
-#include <new>
 #include <vector>
 
 /// A failed step, with the result code for the caller.
@@ -26,42 +26,45 @@ private:
 void processRadioException(const mindroid::sp<RadioApiCallback>& cb, void* userData,
                            const mindroid::sp<mindroid::Exception>& e);
 
-/// The same with the exception that `makeException` makes. Without the memory for one, the code is
+/// The same for what a step threw. With the name of a method it is logged by that first, and keeps its message; without
+/// one all but a RadioException are a failure like any other. Without the memory to tell of it, the code is
 /// RADIO_APIS_FAILURE and there is no record.
-template <typename MakeException>
-void endWithException(const mindroid::sp<RadioApiCallback>& cb, void* userData, MakeException makeException)
-{
-    mindroid::sp<mindroid::Exception> exception;
-    try {
-        exception = makeException();
-    } catch (const std::bad_alloc&) {
-        cb->call(userData, RADIO_APIS_FAILURE, nullptr);
-        return;
-    }
-    processRadioException(cb, userData, exception);
-}
+void endWithException(const mindroid::sp<RadioApiCallback>& cb, void* userData, const char* method,
+                      const std::exception& exception);
 
 /// One command of a chain.
 struct CmdPair : mindroid::Object {
-    CmdPair(const char* cmd, AtResponseCallback::Function fn, int pauseAfter);
+    CmdPair(const char* cmd, AtResponseCallback::Function fn, int pauseAfter, int moreSends);
 
-    const mindroid::sp<mindroid::String> text; ///< with its line end
-    const int delay;                           ///< milliseconds after its success; 0 or less is none
-    const mindroid::sp<AtResponseCallback> interpreter;
+    const mindroid::sp<mindroid::String> text; ///< with its line end, if it has one
+    const AtResponseCallback::Function interpreter;
+    const int delay;   ///< milliseconds from its answer to what follows; 0 or less is none
+    const int repeats; ///< how often it is sent again while its interpreter returns a failure
 };
 
-/// Used once: built, started, and kept alive by what is under way until its last step or its exception
-/// handler has run. The caller is called back exactly once: with the record of the last command, or with a
-/// zeroed one and the code of the command that failed.
+/// Used once: built, started, and kept alive by what is under way until its last step or its exception handler has run.
+/// The caller is called back exactly once: with the record of the last command, or with a zeroed one and the code of
+/// the command that failed.
 template <typename T>
 class AtChainPromise : public mindroid::Object {
 public:
     static constexpr int kNoDelay = -1;
 
+    /// @param method  the request's name, when what makes the chain fail is logged by it; such a chain ends with a
+    ///                zeroed record, also when it succeeds
+    explicit AtChainPromise(const char* method = nullptr) : mMethod(method) {}
+
     /// Adds a command, without line end. Only the last command's interpreter is given a record.
     void add(const char* cmd, AtResponseCallback::Function fn, int delay = kNoDelay)
     {
-        mCommands.push_back(mindroid::make<CmdPair>(cmd, std::move(fn), delay));
+        addText((std::string(cmd) + "\r\n").c_str(), std::move(fn), delay);
+    }
+
+    /// Adds a command as it stands. While its interpreter returns a failure it is sent again after the delay, up to
+    /// `repeats` times; what the interpreter throws ends the chain.
+    void addText(const char* text, AtResponseCallback::Function fn, int delay = kNoDelay, int repeats = 0)
+    {
+        mCommands.push_back(mindroid::make<CmdPair>(text, std::move(fn), delay, repeats));
     }
 
     /// Sends the first command and returns. The callback never runs inside this call; an empty chain succeeds
@@ -71,108 +74,109 @@ public:
         mClient = client;
         mUserData = userData;
         mCallback = mindroid::make<RadioApiCallback>(std::move(cb));
-        const mindroid::sp<AtChainPromise> self(this);
-        if (mCommands.empty()) {
-            mindroid::runAfter(kAtOnce, [self] {
-                ZeroedResult record;
-                self->mCallback->call(self->mUserData, RADIO_APIS_SUCCESS, &record);
-            });
-        } else if (!runStep(0)) {
+        if (mCommands.empty() || !send(0, 0)) {
             // Not from here: the caller is still inside the request function.
-            mindroid::runAfter(kAtOnce, [self] { self->fail(RADIO_APIS_FAILURE); });
+            mindroid::runAfter(std::chrono::milliseconds(0), [self = mindroid::sp(this)] {
+                self->run([&] {
+                    if (!self->mCommands.empty()) {
+                        throw RadioException(RADIO_APIS_FAILURE);
+                    }
+                    return true;
+                });
+            });
         }
     }
 
 private:
     using Promise = mindroid::Promise<T>;
 
-    static constexpr std::chrono::milliseconds kAtOnce{0};
-
-    /// Sends one command; false when it was refused. The last one's answer goes from the transport to the caller,
-    /// with the record and whatever it says; every other one's decides whether the chain goes on.
-    bool runStep(size_t index)
+    /// Runs a part of the chain, which returns whether the chain is done. What it throws ends the chain.
+    template <typename Part>
+    void run(Part part)
     {
-        const CmdPair& pair = *mCommands[index];
-        const char* cmd = pair.text->c_str();
-        if (index + 1 == mCommands.size()) {
-            return mClient->sendAtCommand(cmd, mUserData, mCallback, pair.interpreter) == 0;
+        try {
+            if (!part()) {
+                return;
+            }
+        } catch (const std::exception& exception) {
+            endWithException(mCallback, mUserData, mMethod, exception);
+            return;
         }
-        const mindroid::sp<AtChainPromise> self(this);
-        const auto interpreter = mindroid::make<AtResponseCallback>(
-            [self, index](const mindroid::sp<mindroid::Parcel>& answer, RadioApisResultType*) {
-                return self->onAnswer(index, answer);
-            });
-        return mClient->sendAtCommand(cmd, mUserData, interpreter) == 0;
+        ZeroedResult record;
+        mCallback->call(mUserData, RADIO_APIS_SUCCESS, &record);
     }
 
-    RADIO_APIS_RESULT onAnswer(size_t index, const mindroid::sp<mindroid::Parcel>& answer)
+    /// Sends one command; false when it was refused. The answer to the last one of a chain without a method goes from
+    /// the transport to the caller, with the record and whatever it says; every other one's decides how the chain goes
+    /// on.
+    bool send(size_t index, int repeat)
     {
-        RADIO_APIS_RESULT result = RADIO_APIS_FAILURE;
-        attempt([&] {
-            result = mCommands[index]->interpreter->interpret(answer, nullptr);
-            return true;
-        });
-        if (result == RADIO_APIS_SUCCESS) {
-            goOnAfter(index);
-        } else {
-            fail(result);
+        const CmdPair& command = *mCommands[index];
+        const char* text = command.text->c_str();
+        if (mMethod == nullptr && index + 1 == mCommands.size()) {
+            const auto interpreter = mindroid::make<AtResponseCallback>(command.interpreter);
+            return mClient->sendAtCommand(text, mUserData, mCallback, interpreter) == 0;
         }
-        return result;
+        const auto interpreter = mindroid::make<AtResponseCallback>(
+            [self = mindroid::sp(this), index, repeat](const mindroid::sp<mindroid::Parcel>& answer,
+                                                       RadioApisResultType*) {
+                self->run([&] { return self->onAnswer(index, repeat, answer); });
+                return RADIO_APIS_SUCCESS;
+            });
+        return mClient->sendAtCommand(text, mUserData, interpreter) == 0;
+    }
+
+    bool onAnswer(size_t index, int repeat, const mindroid::sp<mindroid::Parcel>& answer)
+    {
+        const CmdPair& command = *mCommands[index];
+        const RADIO_APIS_RESULT result = command.interpreter(answer, nullptr);
+        if (result == RADIO_APIS_SUCCESS) {
+            return goOnAfter(command.delay, index + 1, 0);
+        }
+        if (repeat == command.repeats) {
+            throw RadioException(result);
+        }
+        return goOnAfter(command.delay, index, repeat + 1);
     }
 
     /// Each step starts when the one before it is done, out of its answer or its pause: what a chain needs of the
     /// stack does not grow with its length.
-    void goOnAfter(size_t index)
+    bool goOnAfter(int delay, size_t index, int repeat)
     {
-        if (mCommands[index]->delay > 0) {
-            failUnless(attempt([&] { return startPause(index); }));
-        } else {
-            failUnless(attempt([&] { return runStep(index + 1); }));
+        if (index == mCommands.size()) {
+            return true;
         }
-    }
-
-    bool startPause(size_t index)
-    {
-        const mindroid::sp<AtChainPromise> self(this);
-        const auto step = mindroid::make<Promise>();
-        step->delay(std::chrono::milliseconds(mCommands[index]->delay))
-            ->then([self, index](const T&, const mindroid::sp<mindroid::Exception>& exception) {
-                self->failUnless(!exception && attempt([&] { return self->runStep(index + 1); }));
+        if (delay <= 0) {
+            return goOn(index, repeat);
+        }
+        const auto pause = mindroid::make<Promise>();
+        pause->delay(std::chrono::milliseconds(delay))
+            ->then([self = mindroid::sp(this), index,
+                    repeat](const T&, const mindroid::sp<mindroid::Exception>& exception) {
+                self->run([&] {
+                    if (exception) {
+                        throw mindroid::Exception(*exception);
+                    }
+                    return self->goOn(index, repeat);
+                });
             });
-        step->complete(T());
-        return true;
+        pause->complete(T());
+        return false;
     }
 
-    void failUnless(bool done)
+    bool goOn(size_t index, int repeat)
     {
-        if (!done) {
-            fail(RADIO_APIS_FAILURE);
+        if (!send(index, repeat)) {
+            throw RadioException(RADIO_APIS_FAILURE);
         }
-    }
-
-    /// What `operation` returns; false without the memory for it.
-    template <typename Operation>
-    static bool attempt(Operation operation)
-    {
-        try {
-            return operation();
-        } catch (const std::exception&) {
-            return false;
-        }
-    }
-
-    /// Tells the caller how the chain ended; the last that a chain does.
-    void fail(int result)
-    {
-        endWithException(mCallback, mUserData, [=] {
-            return mindroid::make<mindroid::CompletionException>(mindroid::make<RadioException>(result));
-        });
+        return false;
     }
 
     std::vector<mindroid::sp<CmdPair>> mCommands;
     mindroid::sp<VornAtClient> mClient;
     void* mUserData = nullptr;
     mindroid::sp<RadioApiCallback> mCallback;
+    const char* const mMethod;
 };
 
 using AtChain = AtChainPromise<mindroid::sp<mindroid::Void>>;

@@ -9,12 +9,11 @@
 #include "channel/byte_conversion.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
 
-using at::acceptedPieces;
+using at::ifAccepted;
 using at::kTag;
 using at::Pieces;
 using mindroid::make;
@@ -26,11 +25,9 @@ namespace {
 /// A mask of 32 bits in decimal digits, which the modem may take for a signed number.
 std::optional<uint32_t> toMask(std::string_view digits)
 {
-    int64_t value = 0;
-    const char* end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, value);
-    const bool fits = error == std::errc() && stop == end && value >= INT32_MIN && value <= UINT32_MAX;
-    return fits ? std::optional(static_cast<uint32_t>(value)) : std::nullopt;
+    const auto value = at::toNumber<int64_t>(digits);
+    const bool fits = value && *value >= INT32_MIN && *value <= UINT32_MAX;
+    return fits ? std::optional(static_cast<uint32_t>(*value)) : std::nullopt;
 }
 
 /// Where one radio access technology's bands stand in an answer.
@@ -115,40 +112,40 @@ RADIO_APIS_RESULT onBandPrefer(const BandPlace& place, bool current, const sp<Pa
     auto& out = result->rsp.bandPrefer;
     out.rat = place.rat;
     out.current = current ? 1 : 0;
-    const auto pieces = acceptedPieces(answer);
-    if (!pieces) {
+    if (!answer->getBoolean()) {
         return RADIO_APIS_FAILURE;
     }
-    zorLogD(kTag, "getBandPrefer : bands size:%d", static_cast<int>(pieces->size()));
-    if (pieces->size() <= place.first) {
+    const Pieces pieces = at::nextPieces(*answer);
+    zorLogD(kTag, "getBandPrefer : bands size:%d", static_cast<int>(pieces.size()));
+    if (pieces.size() <= place.first) {
         zorLogE(kTag, "%s : un expected bands len returned, expected at least %zu", kGetBandPrefer,
                 place.first + 1);
         return RADIO_APIS_FAILURE;
     }
-    if (!readBands(place, *pieces, out)) {
+    if (!readBands(place, pieces, out)) {
         out.length = 0;
         return RADIO_APIS_FAILURE;
     }
     return RADIO_APIS_SUCCESS;
 }
 
-RADIO_APIS_RESULT onBandModes(const sp<Parcel>& answer, RadioApisResultType* result)
+bool onBandModes(Parcel& answer, RadioApisResultType& record)
 {
-    const auto pieces = acceptedPieces(answer);
-    if (!pieces || pieces->size() < kLtePiece || pieces->size() > kLtePiece + kRadioMaxLteBandWords) {
-        return RADIO_APIS_FAILURE;
+    const Pieces pieces = at::nextPieces(answer);
+    if (pieces.size() < kLtePiece || pieces.size() > kLtePiece + kRadioMaxLteBandWords) {
+        return false;
     }
     RadioBandModes modes{};
     uint32_t* const places[] = {&modes.gsm, &modes.umts};
-    for (size_t i = 0; i < pieces->size(); ++i) {
-        const auto mask = toMask((*pieces)[i]);
+    for (size_t i = 0; i < pieces.size(); ++i) {
+        const auto mask = toMask(pieces[i]);
         if (!mask) {
-            return RADIO_APIS_FAILURE;
+            return false;
         }
         *(i < kLtePiece ? places[i] : &modes.lte[modes.lteWords++]) = *mask;
     }
-    result->rsp.bandModes = modes;
-    return RADIO_APIS_SUCCESS;
+    record.rsp.bandModes = modes;
+    return true;
 }
 
 /// The bits of a piece that is a mask. Throws where there is none, as the interpreter of an answer may.
@@ -167,75 +164,63 @@ uint64_t lteBands(const Pieces& pieces, size_t index)
     return bands;
 }
 
-RADIO_APIS_RESULT onBand(int nwType, const sp<Parcel>& answer, RadioApisResultType* result)
+bool onBand(int nwType, const Pieces& pieces, RadioApisResultType& record)
 {
-    const auto pieces = acceptedPieces(answer);
-    if (!pieces) {
-        return RADIO_APIS_FAILURE;
-    }
     RadioBandInfo info{nwType, 0, 0};
     switch (nwType) {
     case RADIO_BAND_GSM:
-        info.low = RfTestHelper::convertGSMBandBit2UIbit(maskAt(*pieces, 0));
+        info.low = RfTestHelper::convertGSMBandBit2UIbit(maskAt(pieces, 0));
         break;
     case RADIO_BAND_UMTS:
-        info.low = RfTestHelper::convertWCDMABandBit2UIbit(maskAt(*pieces, 1));
+        info.low = RfTestHelper::convertWCDMABandBit2UIbit(maskAt(pieces, 1));
         break;
     case RADIO_BAND_LTE:
-        if (pieces->size() <= kLtePiece) {
-            return RADIO_APIS_FAILURE;
+        if (pieces.size() <= kLtePiece) {
+            return false;
         }
-        info.low = lteBands(*pieces, kLtePiece);
-        info.high = lteBands(*pieces, kLtePiece + 2);
+        info.low = lteBands(pieces, kLtePiece);
+        info.high = lteBands(pieces, kLtePiece + 2);
         break;
     default: // NR
-        const std::string mask(pieces->at(kNrPiece));
+        const std::string mask(pieces.at(kNrPiece));
         if (!RfTestHelper::isEPBSEHMask(mask)) {
-            return RADIO_APIS_FAILURE;
+            return false;
         }
         info.low = RfTestHelper::parserEPBSEHLow(mask);
         info.high = RfTestHelper::parserEPBSEHHigh(mask);
     }
-    result->rsp.bandInfo = info;
-    return RADIO_APIS_SUCCESS;
+    record.rsp.bandInfo = info;
+    return true;
 }
 
-/// The parsed answer's next field, whatever its kind.
-std::string fieldText(Parcel& answer)
+/// The mask is the first field, whatever its kind.
+bool onCdmaBand(Parcel& answer, RadioApisResultType& record)
 {
-    return answer.getByte() == AtCmdParser::kInteger ? std::to_string(answer.getInt())
-                                                     : std::string(answer.getString());
-}
-
-RADIO_APIS_RESULT onCdmaBand(const sp<Parcel>& answer, RadioApisResultType* result)
-{
-    if (!answer->getBoolean() || answer->getInt() < 1) {
-        return RADIO_APIS_FAILURE;
+    if (answer.getInt() < 1) {
+        return false;
     }
-    const std::string mask = fieldText(*answer);
+    const bool isInteger = answer.getByte() == AtCmdParser::kInteger;
+    const std::string mask = isInteger ? std::to_string(answer.getInt()) : std::string(answer.getString());
     if (!RfTestHelper::isCDMAMask(mask)) {
-        return RADIO_APIS_FAILURE;
+        return false;
     }
-    result->rsp.bandInfo = {RADIO_BAND_CDMA, RfTestHelper::convertCDMABandBit2UIbit(mask), 0};
-    return RADIO_APIS_SUCCESS;
+    record.rsp.bandInfo = {RADIO_BAND_CDMA, RfTestHelper::convertCDMABandBit2UIbit(mask), 0};
+    return true;
 }
 
 /// The number is the last field: the name of the item comes first.
-RADIO_APIS_RESULT onBandsTxNum(const sp<Parcel>& answer, RadioApisResultType* result)
+bool onBandsTxNum(Parcel& answer, RadioApisResultType& record)
 {
-    if (!answer->getBoolean()) {
-        return RADIO_APIS_FAILURE;
+    for (int left = answer.getInt(); left > 1; --left) {
+        at::nextInteger(answer);
     }
-    for (int left = answer->getInt(); left > 1; --left) {
-        fieldText(*answer);
+    const auto number = at::nextInteger(answer);
+    if (!number) {
+        return false;
     }
-    if (answer->getByte() != AtCmdParser::kInteger) {
-        return RADIO_APIS_FAILURE;
-    }
-    result->rsp.bandTxNumInfo.bandTxNum = answer->getInt();
-    zorLogD(kTag, "%s : result->rsp.bandTxNumInfo.bandTxNum=%d", "getBandsTxNum",
-            result->rsp.bandTxNumInfo.bandTxNum);
-    return RADIO_APIS_SUCCESS;
+    record.rsp.bandTxNumInfo.bandTxNum = *number;
+    zorLogD(kTag, "%s : result->rsp.bandTxNumInfo.bandTxNum=%d", "getBandsTxNum", *number);
+    return true;
 }
 
 std::string joinedMasks(const uint8_t* bands, unsigned length)
@@ -318,16 +303,17 @@ int VornAtClient::getBandPrefer(int rat, void* userData, RadioRequestCallback cb
 int VornAtClient::getAvailableBandModes(void* userData, RadioRequestCallback cb)
 {
     zorLogD(kTag, "%s - enter. slotId=%d", __func__, mInstance);
-    return sendAtCommandRspRawStr("AT+EPBSE?", userData, cb, make<AtResponseCallback>(onBandModes));
+    return sendAtCommandRspRawStr("AT+EPBSE?", userData, cb,
+                                  make<AtResponseCallback>(ifAccepted(onBandModes)));
 }
 
 int VornAtClient::getBand(int nwType, void* userData, RadioRequestCallback cb)
 {
     zorLogD(kTag, "%s: ENTER  nwType=%d", __func__, nwType);
     const auto interpreter =
-        make<AtResponseCallback>([=](const sp<Parcel>& answer, RadioApisResultType* result) {
-            return onBand(nwType, answer, result);
-        });
+        make<AtResponseCallback>(ifAccepted([=](Parcel& answer, RadioApisResultType& record) {
+            return onBand(nwType, at::nextPieces(answer), record);
+        }));
     switch (nwType) {
     case RADIO_BAND_GSM:
     case RADIO_BAND_UMTS:
@@ -339,7 +325,7 @@ int VornAtClient::getBand(int nwType, void* userData, RadioRequestCallback cb)
         const auto chain = make<AtChain>();
         chain->add("AT+EWMPOLICY=0", completeWithResultVoid);
         chain->add("AT+ECSRA=2,1,0,1,1,0", completeWithResultVoid);
-        chain->add("AT+ECBANDCFG?", onCdmaBand);
+        chain->add("AT+ECBANDCFG?", ifAccepted(onCdmaBand));
         chain->start(this, userData, cb);
         return RADIO_APIS_SUCCESS;
     }
@@ -356,7 +342,8 @@ int VornAtClient::getBandsTxNum(int radioTech, int uiBand, int subband, void* us
             subband, mInstance);
     const auto chain = make<AtChain>();
     chain->add("AT", completeWithResultVoid);
-    chain->add(AtText<64>(R"(AT+EGMC=1,"QueryTxVerifyIdx",%d,%d)", radioTech, uiBand), onBandsTxNum);
+    chain->add(AtText<64>(R"(AT+EGMC=1,"QueryTxVerifyIdx",%d,%d)", radioTech, uiBand),
+               ifAccepted(onBandsTxNum));
     chain->start(this, userData, cb);
     return RADIO_APIS_SUCCESS;
 }

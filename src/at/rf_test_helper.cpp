@@ -1,13 +1,12 @@
 #include "at/rf_test_helper.h"
 
+#include "at/at_answer.h"
 #include "at/at_log.h"
 
-#include <charconv>
-#include <optional>
 #include <span>
-#include <string_view>
 
 using at::kTag;
+using at::toNumber;
 
 namespace {
 
@@ -51,26 +50,17 @@ bool removeHexPrefix(std::string_view& text)
     return present;
 }
 
-/// Nothing for what is no number of this base.
-std::optional<uint64_t> toNumber(std::string_view digits, int base)
-{
-    uint64_t number = 0;
-    const char* end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, number, base);
-    return error == std::errc() && stop == end ? std::optional(number) : std::nullopt;
-}
-
 std::optional<uint64_t> toBandClasses(std::string_view digits)
 {
     const int base = removeHexPrefix(digits) ? 16 : 10;
-    return toNumber(digits, base);
+    return toNumber<uint64_t>(digits, base);
 }
 
 constexpr size_t kHalf = 16; ///< digits of 64 bits
 
 uint64_t parseHalf(const char* function, std::string_view digits)
 {
-    const uint64_t mask = toNumber(digits, 16).value_or(0);
+    const uint64_t mask = toNumber<uint64_t>(digits, 16).value_or(0);
     zorLogD(kTag, "%s 64 bits=[%.*s]  ret=0x%llx", function, static_cast<int>(digits.size()), digits.data(),
             static_cast<unsigned long long>(mask));
     return mask;

@@ -1,29 +1,11 @@
-/// How the modem searches for networks, and which technology it prefers.
+/// What the modem does out of service.
 #include "at/at_log.h"
 #include "at/at_text.h"
 #include "at/vorn_at_client.h"
 
-#include <span>
-
 using at::kTag;
 
 namespace {
-
-/// The switches of the search for one technology.
-struct BackgroundSearch {
-    std::span<const char* const> search;
-    std::span<const char* const> ignoreNeighbourList;
-};
-
-constexpr const char* kSearchLte[] = {"SBP_BG_SEARCH_3G4_FDD", "SBP_BG_SEARCH_3G4_TDD",
-                                      "SBP_BG_SEARCH_2G4_FDD", "SBP_BG_SEARCH_2G4_TDD"};
-constexpr const char* kIgnoreForLte[] = {"SBP_IGNORE_W_SIB19_NBR_FREQ_BG_SEARCH_3G4",
-                                         "SBP_GAS_IGNORE_LTE_NBR_FREQ_FOR_LTE_BG_SRCH"};
-constexpr const char* kSearchNr[] = {"SBP_BG_SEARCH_4G5", "SBP_BG_SEARCH_3G5_FDD", "SBP_BG_SEARCH_3G5_TDD",
-                                     "SBP_BG_SEARCH_2G5_FDD", "SBP_BG_SEARCH_2G5_TDD"};
-constexpr const char* kIgnoreForNr[] = {"SBP_IGNORE_L_SIB24_NBR_FREQ_BG_SEARCH_4G5"};
-
-constexpr BackgroundSearch kSearchedByRat[] = {{kSearchNr, kIgnoreForNr}, {kSearchLte, kIgnoreForLte}};
 
 /// A switch's text, by whether it is on.
 const char* byState(int enable, const char* on, const char* off)
@@ -32,28 +14,6 @@ const char* byState(int enable, const char* on, const char* off)
 }
 
 } // namespace
-
-int VornAtClient::setBackgroundSearch(int rat, bool ignoreNeighbourList, bool enable, void* userData,
-                                      RadioRequestCallback cb)
-{
-    zorLogD(kTag, "%s: setBackgroundSearch ENTER", __func__);
-    if (rat != 0 && rat != 1) {
-        zorLogE(kTag, "unknown rat!");
-        return RADIO_APIS_FAILURE;
-    }
-    std::vector<std::string> commands;
-    const auto add = [&](std::span<const char* const> names, bool value) {
-        for (const char* name : names) {
-            commands.emplace_back(AtText<256>("AT+ESBP=5,\"%s\",%d,1", name, value ? 1 : 0));
-        }
-    };
-    // To ignore the neighbour list without searching means nothing; that chain stays empty.
-    if (enable || !ignoreNeighbourList) {
-        add(kSearchedByRat[rat].search, enable);
-        add(kSearchedByRat[rat].ignoreNeighbourList, ignoreNeighbourList);
-    }
-    return sendSetters(commands, userData, cb);
-}
 
 int VornAtClient::setOosCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCallback cb)
 {
@@ -96,54 +56,4 @@ int VornAtClient::setOosCfg(const RadioOosCfgInfo& info, void* userData, RadioRe
         zorLogE(kTag, "setOosCfg: result: %d", RADIO_APIS_FAILURE);
         return RADIO_APIS_FAILURE;
     }
-}
-
-int VornAtClient::clearStoredFrequency(int option, void* userData, RadioRequestCallback cb)
-{
-    zorLogD(kTag, "%s: ENTER: %d", __func__, option);
-    return sendSetters({"AT+EGCMD=6,0,\"RRM_CLEAN_SCSI\"", "AT+EGCMD=6,0,\"ERRC_CLEAR_STORED_INFO\"",
-                        "AT+EPLMNFREQ=0,4", "AT+EPLMNFREQ=0,128"},
-                       userData, cb);
-}
-
-int VornAtClient::setRatScan(int* rats, int count, void* userData, RadioRequestCallback cb)
-{
-    // The modem's list always has four technologies: 4 LTE, 128 NR, 2 UMTS, 1 GSM.
-    constexpr int kLte = 4;
-    constexpr int kNr = 5;
-    const int first = rats != nullptr && count > 0 ? rats[0] : -1;
-    if (first == kLte && (count == 3 || count == 4)) {
-        return sendSetter("AT+EPRATL=4,4,128,2,1", userData, cb);
-    }
-    if (first == kNr && count == 4) {
-        return sendSetter("AT+EPRATL=4,128,4,2,1", userData, cb);
-    }
-    zorLogE(kTag, "%s: unknown order, count:%d", __func__, count);
-    return RADIO_APIS_FAILURE;
-}
-
-int VornAtClient::performRetHighRat(int rat, int, void* userData, RadioRequestCallback cb)
-{
-    constexpr int kLte = 4;
-    constexpr int kNr = 5;
-    if (rat != kLte && rat != kNr) {
-        zorLogE(kTag, "%s: unknown rat, rat:%d", __func__, rat);
-        return RADIO_APIS_FAILURE;
-    }
-    return sendSetter(rat == kLte ? "AT+ERETLTE" : "AT+ERETNR", userData, cb);
-}
-
-int VornAtClient::setRedirectOptSetting(int value, int, int, int, int, int, void* userData,
-                                        RadioRequestCallback cb)
-{
-    return sendSetter(AtText<128>("AT+ESBP=5,\"SBP_CONTINUOUS_4G5_REDIRECTION_FAILURE\",%d", value), userData,
-                      cb);
-}
-
-int VornAtClient::setAttachPriority(int value, int, int, int, int, void* userData, RadioRequestCallback cb)
-{
-    return sendSetter(
-        AtText<128>("AT+ESBP = 5,\"SBP_MODIFY_NON_DATA_SIM_GMM_ATTACH_PRIORITY_TO_LOW_MSPM_PRIORITY\",%d",
-                    value),
-        userData, cb);
 }

@@ -10,28 +10,30 @@ using mindroid::sp;
 
 namespace {
 
-RADIO_APIS_RESULT onServiceMode(const sp<Parcel>& answer, RadioApisResultType* result)
+/// Reads the first field of an answer, which must be an integer.
+RADIO_APIS_RESULT readMode(const char* method, const char* name, const sp<Parcel>& answer, int32_t& mode)
 {
-    zorLogD(kTag, "getServiceMode :cb Enter");
-    const auto mode = at::firstInteger(answer);
-    if (!mode) {
+    zorLogD(kTag, "%s :cb Enter", method);
+    const bool hasFields = answer->getBoolean() && answer->getInt() >= 1;
+    const auto field = hasFields ? at::nextInteger(*answer) : std::nullopt;
+    if (!field) {
         return RADIO_APIS_FAILURE;
     }
-    result->rsp.serviceModeInfo.serviceMode = *mode;
-    zorLogD(kTag, "getServiceMode : result->rsp.serviceModeInfo.serviceMode : %d", *mode);
+    mode = *field;
+    zorLogD(kTag, "%s : result->rsp.%s : %d", method, name, mode);
     return RADIO_APIS_SUCCESS;
+}
+
+RADIO_APIS_RESULT onServiceMode(const sp<Parcel>& answer, RadioApisResultType* result)
+{
+    return readMode("getServiceMode", "serviceModeInfo.serviceMode", answer,
+                    result->rsp.serviceModeInfo.serviceMode);
 }
 
 RADIO_APIS_RESULT onCentricMode(const sp<Parcel>& answer, RadioApisResultType* result)
 {
-    zorLogD(kTag, "getCentricMode :cb Enter");
-    const auto mode = at::firstInteger(answer);
-    if (!mode) {
-        return RADIO_APIS_FAILURE;
-    }
-    result->rsp.centricModeInfo.centricMode = *mode;
-    zorLogD(kTag, "getCentricMode : result->rsp.centricModeInfo.centricMode : %d", *mode);
-    return RADIO_APIS_SUCCESS;
+    return readMode("getCentricMode", "centricModeInfo.centricMode", answer,
+                    result->rsp.centricModeInfo.centricMode);
 }
 
 } // namespace

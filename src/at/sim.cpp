@@ -1,6 +1,6 @@
-/// The SIM card, its lock, and how several of them are served.
+/// The SIM card and its lock.
+#include "at/at_answer.h"
 #include "at/at_log.h"
-#include "at/at_text.h"
 #include "at/vorn_at_client.h"
 
 #include <algorithm>
@@ -9,50 +9,45 @@
 using at::kTag;
 using mindroid::make;
 using mindroid::Parcel;
-using mindroid::sp;
 
 namespace {
 
 /// The answer's data is the IMSI alone, taken as text: it may begin with zeros.
-RADIO_APIS_RESULT onImsi(const sp<Parcel>& answer, RadioApisResultType* result)
+bool onImsi(Parcel& answer, RadioApisResultType& record)
 {
     constexpr std::string_view kTestNetwork = "00101";
-    const bool accepted = answer->getBoolean();
-    const std::string_view imsi = accepted ? answer->getString() : std::string_view();
-    auto& card = result->rsp.simCardType;
+    const std::string_view imsi = answer.getString();
+    auto& card = record.rsp.simCardType;
     const bool isImsi = !imsi.empty() && imsi.size() < sizeof card.imsi &&
                         std::ranges::all_of(imsi, [](char c) { return c >= '0' && c <= '9'; });
-    if (!isImsi) {
-        return RADIO_APIS_FAILURE;
+    if (isImsi) {
+        card.type = imsi.starts_with(kTestNetwork) ? 1 : 0;
+        std::ranges::copy(imsi, card.imsi);
     }
-    card.type = imsi.starts_with(kTestNetwork) ? 1 : 0;
-    std::ranges::copy(imsi, card.imsi);
-    return RADIO_APIS_SUCCESS;
+    return isImsi;
 }
 
-RADIO_APIS_RESULT onSimCategory(const sp<Parcel>& answer, RadioApisResultType* result)
+bool onSimCategory(Parcel& answer, RadioApisResultType& record)
 {
-    if (!answer->getBoolean()) {
-        return RADIO_APIS_FAILURE;
-    }
-    auto& lock = result->rsp.simlockCategory;
-    const std::string_view category = answer->getString().substr(0, sizeof lock.category - 1);
+    auto& lock = record.rsp.simlockCategory;
+    const std::string_view category = answer.getString().substr(0, sizeof lock.category - 1);
     std::ranges::copy(category, lock.category);
     lock.length = static_cast<uint32_t>(category.size());
     zorLogD(kTag, "simCategory: %s, len: %d", lock.category, static_cast<int>(lock.length));
-    return RADIO_APIS_SUCCESS;
+    return true;
 }
 
 } // namespace
 
 int VornAtClient::getSimCardType(int, void* userData, RadioRequestCallback cb)
 {
-    return sendAtCommandRspRawStr("AT+CIMI", userData, cb, make<AtResponseCallback>(onImsi));
+    return sendAtCommandRspRawStr("AT+CIMI", userData, cb, make<AtResponseCallback>(at::ifAccepted(onImsi)));
 }
 
 int VornAtClient::getSimlockCategoryData(void* userData, RadioRequestCallback cb)
 {
-    return sendAtCommandRspRawStr("AT+ESMLRSUF?", userData, cb, make<AtResponseCallback>(onSimCategory));
+    return sendAtCommandRspRawStr("AT+ESMLRSUF?", userData, cb,
+                                  make<AtResponseCallback>(at::ifAccepted(onSimCategory)));
 }
 
 int VornAtClient::getSimlockLockStatus(void*, RadioRequestCallback)
@@ -60,10 +55,4 @@ int VornAtClient::getSimlockLockStatus(void*, RadioRequestCallback)
     zorLogE(kTag, "%s : unsupported operation, plese see Java remoteSimlockGetSimlockStatusEx instead",
             __func__);
     return RADIO_APIS_FAILURE;
-}
-
-int VornAtClient::setMsimSubModePref(int mode, void* userData, RadioRequestCallback cb)
-{
-    zorLogD(kTag, "%s - enter. slotId=%d mode=%d", __func__, mInstance, mode);
-    return sendSetter(AtText<128>("AT+ESBP=5,\"SBP_DSDA\",%d", mode), userData, cb);
 }

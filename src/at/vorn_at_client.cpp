@@ -120,7 +120,7 @@ void VornAtClient::Command::answerInterpreter(void* response, unsigned int, Radi
     command->interpret(answer, nullptr);
 }
 
-VornAtClient::VornAtClient(bool, int slotId) : VornClient(slotId, nullptr, 0) {}
+VornAtClient::VornAtClient(bool, int slotId) : VornClient(kTag, slotId, nullptr, 0) {}
 
 int VornAtClient::sendCommand(const char* cmd, std::unique_ptr<Command> command)
 {

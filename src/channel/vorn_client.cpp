@@ -12,8 +12,8 @@ constexpr char kClientTag[] = "VornClient";
 
 } // namespace
 
-VornClient::VornClient(int instance, const rpcEventHandlerMap* map, int mapCount)
-    : RpcClient(true, instance, map, mapCount)
+VornClient::VornClient(const char* tag, int instance, const rpcEventHandlerMap* map, int mapCount)
+    : RpcClient(true, instance, map, mapCount), mTag(tag)
 {}
 
 ZeroedResult::ZeroedResult()
@@ -130,7 +130,7 @@ bool VornClient::deregisterVornIndMsg(int msgId)
     return result >= 0;
 }
 
-bool VornClient::switchIndication(const char* tag, RadioEventSwitch wanted, uint8_t& lastInd, int msgId)
+bool VornClient::switchIndication(RadioEventSwitch wanted, uint8_t& lastInd, int msgId)
 {
     std::unique_lock lock(mSwitches);
     if (wanted.valid == 0 || wanted.ind == lastInd) {
@@ -139,12 +139,12 @@ bool VornClient::switchIndication(const char* tag, RadioEventSwitch wanted, uint
     lastInd = wanted.ind;
     if (wanted.ind != 0) {
         const bool done = registerVornIndMsg(msgId);
-        zorLogD(tag, "%s: instance %d event %d register result %d", "registerEvent", mInstance, msgId, done);
+        zorLogD(mTag, "%s: instance %d event %d register result %d", "registerEvent", mInstance, msgId, done);
         return done;
     }
     lock.unlock();
     const bool done = deregisterVornIndMsg(msgId);
-    zorLogD(tag, "%s: instance %d event %d deregister result %d", "registerEvent", mInstance, msgId, done);
+    zorLogD(mTag, "%s: instance %d event %d deregister result %d", "registerEvent", mInstance, msgId, done);
     lock.lock();
     if (lastInd != 0) {
         registerVornIndMsg(msgId); // another thread has switched it on meanwhile
@@ -168,10 +168,10 @@ void VornClient::registerSwitchedOn(std::span<const int> msgIds, std::span<const
     }
 }
 
-bool VornClient::switchOn(const char* tag, int msgId)
+bool VornClient::switchOn(int msgId)
 {
     const bool done = registerVornIndMsg(msgId);
-    zorLogD(tag, "%s: instance %d event %d register event result %d", "registerEvent", mInstance, msgId,
+    zorLogD(mTag, "%s: instance %d event %d register event result %d", "registerEvent", mInstance, msgId,
             done);
     return done;
 }

@@ -13,7 +13,8 @@
 /// Base of the clients that speak to the modem.
 class VornClient : public RpcClient {
 public:
-    VornClient(int instance, const rpcEventHandlerMap* map, int mapCount);
+    /// @param tag  of what the client and its handlers log; outlives both
+    VornClient(const char* tag, int instance, const rpcEventHandlerMap* map, int mapCount);
 
     /// An indication arrived; on the delivery thread.
     virtual void onVornEventCallback(vorn_msg_t* indication);
@@ -39,11 +40,10 @@ public:
     bool deregisterVornIndMsg(int msgId);
 
 protected:
-    /// What registerEvent does in each client, with `tag` as its log tag. A switch that is not valid, or says
-    /// what `lastInd` remembers, does nothing and counts as success; otherwise its wish is remembered
-    /// whatever comes of it.
-    bool switchIndication(const char* tag, RadioEventSwitch wanted, uint8_t& lastInd, int msgId);
-    bool switchOn(const char* tag, int msgId); ///< for an indication without a switch
+    /// What registerEvent does in each client. A switch that is not valid, or says what `lastInd` remembers, does
+    /// nothing and counts as success; otherwise its wish is remembered whatever comes of it.
+    bool switchIndication(RadioEventSwitch wanted, uint8_t& lastInd, int msgId);
+    bool switchOn(int msgId); ///< for an indication without a switch
 
     /// What the end of all registrations begins and ends with: the switches are off, and those that another
     /// thread has set meanwhile are registered again.
@@ -72,12 +72,13 @@ protected:
     /// and `cb` gets success and what it filled. The context's result callback stays empty for that, else a
     /// failure would be answered before the handler sees it.
     ///
-    /// @param tag   the client's log tag
     /// @param fill  a function object without state: an answer may arrive after this client is gone. It
     ///              returns nothing, or a result code; with a failing one there is no record
     template <typename Fill>
-    int sendQuery(const char* tag, const mindroid::sp<VornData>& request, void* userData,
-                  RadioRequestCallback cb, Fill fill);
+    int query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb, Fill fill);
+
+private:
+    const char* const mTag;
 };
 
 /// Given to the modem library with every request, and with every registration of an indication.
@@ -93,11 +94,10 @@ struct ZeroedResult : RadioApisResultType {
 bool isValidResponse(const char* tag, const void* response, const RadioApisAsyncData* context);
 
 template <typename Fill>
-int VornClient::sendQuery(const char* tag, const mindroid::sp<VornData>& request, void* userData,
-                          RadioRequestCallback cb, Fill)
+int VornClient::query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb, Fill)
 {
     static_assert(std::is_empty_v<Fill>);
-    auto handler = [tag, cb](void* response, unsigned int, RadioApisAsyncData* context) {
+    auto handler = [tag = mTag, cb](void* response, unsigned int, RadioApisAsyncData* context) {
         if (!isValidResponse(tag, response, context)) {
             return;
         }

@@ -28,6 +28,15 @@ inline uint32_t failureOf(const VornView& answer)
     return answer.getResult() != 0;
 }
 
+inline constexpr int kQuarterStepRat = 4; ///< its thresholds are counted in quarters
+inline constexpr int kWholeStepRat = 7;
+
+/// Whether the modem has thresholds for a radio access technology.
+constexpr bool hasThresholds(int rat)
+{
+    return rat == kQuarterStepRat || rat == kWholeStepRat;
+}
+
 } // namespace radio
 
 /// Ids of the standard messages.
@@ -56,10 +65,3 @@ inline constexpr uint16_t SetRatThresholds = 4437; ///< of DSDA or of IDC, by th
 inline constexpr uint16_t SetOosSnifferCfg = 4469;
 
 } // namespace RadioMessage
-
-template <typename Fill>
-int VornRadioClient::query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb,
-                           Fill fill)
-{
-    return sendQuery(radio::kTag, request, userData, cb, fill);
-}

@@ -11,7 +11,7 @@ constexpr int kSwitchedIndications[] = {RadioIndication::NwEtxPower, RadioIndica
 } // namespace
 
 VornRadioClient::VornRadioClient(bool, int instance)
-    : VornClient(instance, kRadioIndications.data(), static_cast<int>(kRadioIndications.size()))
+    : VornClient(kTag, instance, kRadioIndications.data(), static_cast<int>(kRadioIndications.size()))
 {
     mTypeCode = RADIO_APIS_SERVICE_MODEM;
     mLowestEvent = static_cast<RADIO_EVENT_TYPE>(10000);
@@ -31,11 +31,11 @@ int VornRadioClient::registerEvent(RegRadioEvtType request, void*, RadioRequestC
     const RadioEventSwitch switches[] = {request.nwEtxPower, request.msimSubMode};
     bool done = true;
     for (size_t i = 0; i < std::size(switches); ++i) {
-        done = switchIndication(kTag, switches[i], mIndicationStates[i], kSwitchedIndications[i]) && done;
+        done = switchIndication(switches[i], mIndicationStates[i], kSwitchedIndications[i]) && done;
     }
     const std::lock_guard lock(mSwitches);
     for (const int msgId : {RadioIndication::DataIfupPacketRoute, RadioIndication::CallRtpSessionMlc}) {
-        done = switchOn(kTag, msgId) && done;
+        done = switchOn(msgId) && done;
     }
     return done ? RADIO_APIS_SUCCESS : RADIO_APIS_FAILURE;
 }

@@ -22,41 +22,37 @@ public:
     /// Ends all subscriptions; 0 when the last one was ended, else 1.
     int unregisterEvent();
 
-    // modes.cpp
-    int setFastDormancyTimer(int index, int timer, void* userData, RadioRequestCallback cb);
-    int getOperationMode(void* userData, RadioRequestCallback cb);
-    int setOperationMode(RADIO_OPERATION_MODE_TYPE mode, void* userData, RadioRequestCallback cb);
-    int getMsimSubModeState(void* userData, RadioRequestCallback cb);
+    // antenna.cpp
+    int getTxCarkit(int radioTech, int uiBand, int subband, int option, void* userData,
+                    RadioRequestCallback cb);
+
+    // device_state.cpp
     int sendDeviceStateExt(int deviceStateExt, void* userData, RadioRequestCallback cb);
     int setImbState(int state, void* userData, RadioRequestCallback cb);
 
-    // search.cpp
-    int performPlmnUnblock(RadioPlmnBlockInfo info, void* userData, RadioRequestCallback cb);
-    int clearForbiddenTai(int option, int mcc, int mnc, bool mncThreeDigits, int code, int type,
-                          void* userData, RadioRequestCallback cb);
-    int configCellBarringParam(unsigned int threshold, unsigned int watchPeriod, unsigned int barringTime,
-                               void* userData, RadioRequestCallback cb);
-    int setOosSnifferCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCallback cb);
-
-    // thresholds.cpp
-    int setDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData, RadioRequestCallback cb);
+    // idc.cpp
     int setIdcOffset(int rat, int offset, const std::vector<RadioIdcOffsetConfig>& configs, void* userData,
                      RadioRequestCallback cb);
+
+    // multi_sim.cpp
+    int getMsimSubModeState(void* userData, RadioRequestCallback cb);
+    int setDsdaPreferCustThresh(int rat, int thresh1, int thresh2, void* userData, RadioRequestCallback cb);
 
     // nv.cpp
     int readNv(int id, signed char index, void* userData, RadioRequestCallback cb);
     int writeNv(int id, signed char index, const unsigned char* data, unsigned int dataLen, void* userData,
                 RadioRequestCallback cb);
 
-    // carkit.cpp
-    int getTxCarkit(int radioTech, int uiBand, int subband, int option, void* userData,
-                    RadioRequestCallback cb);
+    // operation_mode.cpp
+    int setOperationMode(RADIO_OPERATION_MODE_TYPE mode, void* userData, RadioRequestCallback cb);
+    int getOperationMode(void* userData, RadioRequestCallback cb);
 
-    // sim.cpp
-    int requestIccSimAuthentication(const RadioUimAuthenticateReqInfo& info, void* userData,
-                                    RadioRequestCallback cb);
-    int setUimPowerUp(void* userData, RadioRequestCallback cb);
-    int setUimPowerDown(void* userData, RadioRequestCallback cb);
+    // packet_route.cpp
+    int getDataActPacketRoute(void* userData, RadioRequestCallback cb);
+    int getDataIfupPacketRoute(void* userData, RadioRequestCallback cb);
+
+    // power.cpp
+    int setFastDormancyTimer(int index, int timer, void* userData, RadioRequestCallback cb);
 
     // rtp_redundancy.cpp
     int getImsRtpRedunCapability(void* userData, RadioRequestCallback cb);
@@ -69,14 +65,21 @@ public:
     int syncImsRtpRedunDataPathConfig(const RadioImsRtpRedunDataPathConfigType& info, void* userData,
                                       RadioRequestCallback cb);
 
-    // packet_route.cpp
-    int getDataActPacketRoute(void* userData, RadioRequestCallback cb);
-    int getDataIfupPacketRoute(void* userData, RadioRequestCallback cb);
+    // search.cpp
+    int performPlmnUnblock(RadioPlmnBlockInfo info, void* userData, RadioRequestCallback cb);
+    int clearForbiddenTai(int option, int mcc, int mnc, bool mncThreeDigits, int code, int type,
+                          void* userData, RadioRequestCallback cb);
+    int configCellBarringParam(unsigned int threshold, unsigned int watchPeriod, unsigned int barringTime,
+                               void* userData, RadioRequestCallback cb);
+    int setOosSnifferCfg(const RadioOosCfgInfo& info, void* userData, RadioRequestCallback cb);
+
+    // sim.cpp
+    int requestIccSimAuthentication(const RadioUimAuthenticateReqInfo& info, void* userData,
+                                    RadioRequestCallback cb);
+    int setUimPowerUp(void* userData, RadioRequestCallback cb);
+    int setUimPowerDown(void* userData, RadioRequestCallback cb);
 
 private:
-    template <typename Fill>
-    int query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb, Fill fill);
-
     int setUimPower(const char* method, uint8_t on, void* userData, RadioRequestCallback cb);
 
     std::array<uint8_t, 6> mIndicationStates{}; ///< the first two: what the switches were last set to

@@ -7,7 +7,7 @@
 using vs::kTag;
 
 VornVsClient::VornVsClient(bool, int instance)
-    : VornClient(instance, kVendorIndications.data(), static_cast<int>(kVendorIndications.size()))
+    : VornClient(kTag, instance, kVendorIndications.data(), static_cast<int>(kVendorIndications.size()))
 {
     mTypeCode = RADIO_APIS_SERVICE_MODEM;
     mLowestEvent = static_cast<RADIO_EVENT_TYPE>(401);
@@ -32,7 +32,7 @@ bool VornVsClient::registerAlwaysOn()
 {
     bool done = true;
     for (const int msgId : kAlwaysOnIndications) {
-        done = switchOn(kTag, msgId) && done;
+        done = switchOn(msgId) && done;
     }
     return done;
 }
@@ -44,7 +44,7 @@ int VornVsClient::registerEvent(RegVsEvtType request, void*, RadioRequestCallbac
                                          request.hyperUplinkState, request.mccChanged};
     bool done = true;
     for (size_t i = 0; i < std::size(switches); ++i) {
-        done = switchIndication(kTag, switches[i], mLastInd[i], kOptionalIndications[i]) && done;
+        done = switchIndication(switches[i], mLastInd[i], kOptionalIndications[i]) && done;
     }
     const std::lock_guard lock(mSwitches);
     if (mAlwaysOnRegistered == 0) {

@@ -33,6 +33,35 @@ public:
     int registerEvent(RegVsEvtType request, void* userData, RadioRequestCallback cb);
     void unregisterEvent();
 
+    // antenna.cpp
+    int setAolState(int state, void* userData, RadioRequestCallback cb);
+    int setMtplLimitState(int state, void* userData, RadioRequestCallback cb);
+    int setAntFixState(int state, void* userData, RadioRequestCallback cb);
+    int setAntBlockState(int state, void* userData, RadioRequestCallback cb);
+    int setAntForceStateByRat(int rat, int state, void* userData, RadioRequestCallback cb);
+    int setTxPathFilter(signed char rat, int band, int mode, void* userData, RadioRequestCallback cb);
+
+    // atom.cpp
+    int loadAtomApplication(const RadioLoadAtomApplicationType& application, void* userData,
+                            RadioRequestCallback cb);
+    int unloadAtomApplication(int id, void* userData, RadioRequestCallback cb);
+    int setAtomStatus(int id, int status, int subPolicy, const RadioAtomInfoType& info, void* userData,
+                      RadioRequestCallback cb);
+    int getAtomData(int type, int option, int* ids, unsigned int count, void* userData,
+                    RadioRequestCallback cb);
+
+    // camping.cpp: two switches that are set by their name. Arguments other than the fixed ones are refused with 2.
+    int setRedirectOptSetting(int a1, int a2, int a3, int a4, int a5, int a6, void* userData,
+                              RadioRequestCallback cb);
+    int setAttachPriority(int a1, int a2, int a3, int a4, int a5, void* userData, RadioRequestCallback cb);
+
+    // cell_info.cpp
+    int getLteCellInfo(void* userData, RadioRequestCallback cb);
+    int getRRCStatus(void* userData, RadioRequestCallback cb);
+    int getServingCellularCellInfo(void* userData, RadioRequestCallback cb);
+    int getAllCellularCellInfo(void* userData, RadioRequestCallback cb);
+
+    // device_state.cpp
     int sendScreenState(int screenState, void* userData, RadioRequestCallback cb);
     int setMicroMotionState(int microMotionState, int multiplier, void* userData, RadioRequestCallback cb);
     int setSyncWithAp(int sync, void* userData, RadioRequestCallback cb);
@@ -44,55 +73,15 @@ public:
                           RadioRequestCallback cb);
     int setSidoIssueConfig(int* values, unsigned int count, void* userData, RadioRequestCallback cb);
 
-    int setSarState(int source, int state, void* userData, RadioRequestCallback cb);
-    int setSarDsiState(int state, void* userData, RadioRequestCallback cb);
-    int getSarDsiState(void* userData, RadioRequestCallback cb);
-    int setRtSarMode(int mode, void* userData, RadioRequestCallback cb);
-    int setSarRegionCode(int regionCode, void* userData, RadioRequestCallback cb);
+    // ims.cpp
+    int setImsAudioQualityThreshold(const RadioImsAudioQualityThreshold& threshold, void* userData,
+                                    RadioRequestCallback cb);
+    int setAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThreshold& threshold, void* userData,
+                                     RadioRequestCallback cb);
+    int setImsRtpInfo(const RadioImsRtpInfo& info, void* userData, RadioRequestCallback cb);
+    int setImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void* userData, RadioRequestCallback cb);
 
-    int setAolState(int state, void* userData, RadioRequestCallback cb);
-    int setMtplLimitState(int state, void* userData, RadioRequestCallback cb);
-    int setAntFixState(int state, void* userData, RadioRequestCallback cb);
-    int setAntBlockState(int state, void* userData, RadioRequestCallback cb);
-    int setAntForceStateByRat(int rat, int state, void* userData, RadioRequestCallback cb);
-    int setTxPathFilter(signed char rat, int band, int mode, void* userData, RadioRequestCallback cb);
-
-    int setPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback cb);
-    int setSmartIdleCfg(const RadioSmartIdleInfoType& info, void* userData, RadioRequestCallback cb);
-    int setPowerBoostState(int state, void* userData, RadioRequestCallback cb);
-    int getPowerStatistics(void* userData, RadioRequestCallback cb);
-    int getModemHeapList(void* userData, RadioRequestCallback cb);
-
-    int getSimTrayStatus(void* userData, RadioRequestCallback cb);
-    int setSmlBlob(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
-    int setSmlStatus(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
-    int getSmlStatus(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
-    int setRlkBlob(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
-    int setRlkStatus(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
-    int getRlkStatus(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
-
-    int getLteCellInfo(void* userData, RadioRequestCallback cb);
-    int getRRCStatus(void* userData, RadioRequestCallback cb);
-    int getServingCellularCellInfo(void* userData, RadioRequestCallback cb);
-    int getAllCellularCellInfo(void* userData, RadioRequestCallback cb);
-
-    int setHyperUplinkMode(int mode, void* userData, RadioRequestCallback cb);
-    int setHyperUplinkParas(const RadioHyperUplinkParasType& paras, void* userData, RadioRequestCallback cb);
-    int setSceneMode(int scene, int mode, void* userData, RadioRequestCallback cb);
-    int getSceneMode(int* scenes, unsigned int count, void* userData, RadioRequestCallback cb);
-    int setQoeScore(int type, int score, void* userData, RadioRequestCallback cb);
-    int sendScoreInfo(const RadioScoreInfoListType& scores, void* userData, RadioRequestCallback cb);
-    int setSiteCellInfo(int action, const RadioSiteCellInfoType& info, void* userData,
-                        RadioRequestCallback cb);
-
-    int loadAtomApplication(const RadioLoadAtomApplicationType& application, void* userData,
-                            RadioRequestCallback cb);
-    int unloadAtomApplication(int id, void* userData, RadioRequestCallback cb);
-    int setAtomStatus(int id, int status, int subPolicy, const RadioAtomInfoType& info, void* userData,
-                      RadioRequestCallback cb);
-    int getAtomData(int type, int option, int* ids, unsigned int count, void* userData,
-                    RadioRequestCallback cb);
-
+    // metrics.cpp
     int startMetricsCollect(int type, int* ids, unsigned int count, void* userData, RadioRequestCallback cb);
     int stopMetricsCollect(int type, void* userData, RadioRequestCallback cb);
     int getMetricsData(int type, int option, int state, int* ids, unsigned int count, void* userData,
@@ -102,6 +91,12 @@ public:
     int getModemProtocolInfo(void* userData, RadioRequestCallback cb);
     int setVeyraConfigPolicy(VeyraConfigPolicy policy, void* userData, RadioRequestCallback cb);
 
+    // network_action.cpp
+    int sendNetworkAction(const RadioActionConfigType& action, void* userData, RadioRequestCallback cb);
+    int rollbackNetworkAction(int id, int option, void* userData, RadioRequestCallback cb);
+    int getNetworkActionState(int id, void* userData, RadioRequestCallback cb);
+
+    // policy.cpp
     int setModemIndicationPolicy(const RadioPolicyConfigListType& policies, void* userData,
                                  RadioRequestCallback cb);
     int getModemIndicationPolicy(void* userData, RadioRequestCallback cb);
@@ -109,35 +104,54 @@ public:
     int setIndicationConfig(int type, const RadioIndicationConfigListType& configs, void* userData,
                             RadioRequestCallback cb);
 
-    int setImsAudioQualityThreshold(const RadioImsAudioQualityThreshold& threshold, void* userData,
-                                    RadioRequestCallback cb);
-    int setAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThreshold& threshold, void* userData,
-                                     RadioRequestCallback cb);
-    int setImsRtpInfo(const RadioImsRtpInfo& info, void* userData, RadioRequestCallback cb);
-    int setImsRtpThreshold(const RadioImsRtpThresholdInfo& info, void* userData, RadioRequestCallback cb);
+    // power.cpp
+    int setPowerSavingState(const UAIINFO& info, void* userData, RadioRequestCallback cb);
+    int setSmartIdleCfg(const RadioSmartIdleInfoType& info, void* userData, RadioRequestCallback cb);
+    int setPowerBoostState(int state, void* userData, RadioRequestCallback cb);
+    int getPowerStatistics(void* userData, RadioRequestCallback cb);
+    int getModemHeapList(void* userData, RadioRequestCallback cb);
 
+    // qos.cpp
     int setQosReportPeriod(long period, void* userData, RadioRequestCallback cb);
     int setQosConfig(signed char type, unsigned char* data, unsigned int length, void* userData,
                      RadioRequestCallback cb);
     int getQosData(int type, void* userData, RadioRequestCallback cb);
 
+    // rf_icc.cpp
     int getRfIccInfo(void* userData, RadioRequestCallback cb);
     int sendRfIccClatKpi(const RfIccClatKpi& kpi, void* userData, RadioRequestCallback cb);
     int sendRfIccModeState(unsigned char mode1, unsigned char mode2, unsigned char mode3, unsigned char mode4,
                            void* userData, RadioRequestCallback cb);
     int sendRfIccDeviceErr(const RfIccDeviceErr& error, void* userData, RadioRequestCallback cb);
 
+    // sar.cpp
+    int setSarState(int source, int state, void* userData, RadioRequestCallback cb);
+    int setSarDsiState(int state, void* userData, RadioRequestCallback cb);
+    int getSarDsiState(void* userData, RadioRequestCallback cb);
+    int setRtSarMode(int mode, void* userData, RadioRequestCallback cb);
+    int setSarRegionCode(int regionCode, void* userData, RadioRequestCallback cb);
+
+    // scene.cpp
+    int setHyperUplinkMode(int mode, void* userData, RadioRequestCallback cb);
+    int setHyperUplinkParas(const RadioHyperUplinkParasType& paras, void* userData, RadioRequestCallback cb);
+    int setSceneMode(int scene, int mode, void* userData, RadioRequestCallback cb);
+    int getSceneMode(int* scenes, unsigned int count, void* userData, RadioRequestCallback cb);
+    int setQoeScore(int type, int score, void* userData, RadioRequestCallback cb);
+    int sendScoreInfo(const RadioScoreInfoListType& scores, void* userData, RadioRequestCallback cb);
+    int setSiteCellInfo(int action, const RadioSiteCellInfoType& info, void* userData,
+                        RadioRequestCallback cb);
+
+    // search.cpp
     int hplmnBgSearch(const RadioHplmnBgSearchInfoType& info, void* userData, RadioRequestCallback cb);
 
-    int sendNetworkAction(const RadioActionConfigType& action, void* userData, RadioRequestCallback cb);
-    int rollbackNetworkAction(int id, int option, void* userData, RadioRequestCallback cb);
-    int getNetworkActionState(int id, void* userData, RadioRequestCallback cb);
-
-    /// Two switches that are set by their name. Returns 2, and sends nothing, for arguments other than the
-    /// fixed ones.
-    int setRedirectOptSetting(int a1, int a2, int a3, int a4, int a5, int a6, void* userData,
-                              RadioRequestCallback cb);
-    int setAttachPriority(int a1, int a2, int a3, int a4, int a5, void* userData, RadioRequestCallback cb);
+    // sim.cpp
+    int getSimTrayStatus(void* userData, RadioRequestCallback cb);
+    int setSmlBlob(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
+    int setSmlStatus(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
+    int getSmlStatus(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
+    int setRlkBlob(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
+    int setRlkStatus(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
+    int getRlkStatus(const unsigned char* data, unsigned int length, void* userData, RadioRequestCallback cb);
 
 private:
     bool registerAlwaysOn();
@@ -147,9 +161,6 @@ private:
     struct LockRequest;
     int sendLockData(const LockRequest& lock, const unsigned char* data, unsigned int length, void* userData,
                      RadioRequestCallback cb);
-
-    template <typename Fill>
-    int query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb, Fill fill);
 
     std::array<uint8_t, 14> mLastInd{}; ///< of kOptionalIndications: what was last asked for
     uint8_t mAlwaysOnRegistered = 0;

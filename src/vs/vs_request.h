@@ -53,10 +53,3 @@ int addRecords(VornData& request, uint16_t tag, const Record (&records)[size], u
 /// Whether a list of the caller's can be sent: there are values, and their number fits a field. Logs it
 /// otherwise.
 bool isSendable(const void* values, unsigned int count);
-
-template <typename Fill>
-int VornVsClient::query(const mindroid::sp<VornData>& request, void* userData, RadioRequestCallback cb,
-                        Fill fill)
-{
-    return sendQuery(vs::kTag, request, userData, cb, fill);
-}

@@ -1,5 +1,5 @@
 #include "at/at_chain_promise.h"
-#include "at_fixture.h"
+#include "support/at_fixture.h"
 
 using namespace test;
 using mindroid::make;
@@ -65,10 +65,7 @@ TEST_F(AtChains, EndOnceWhateverFails)
                 EXPECT_EQ(caller.calls, 0);
                 modem.answer(failure.answer);
             }
-            EXPECT_EQ(caller.calls, 1);
-            EXPECT_EQ(caller.result, failure.code);
-            EXPECT_TRUE(caller.hadRecord && allZero(caller.record));
-            EXPECT_TRUE(modem.sent.empty());
+            expectEnd(failure.code);
             const bool told = position + 1 < std::size(kCommands) || refused;
             EXPECT_EQ(log.has("E AtChainPromise: processRadioException: radio exception with error no " +
                               std::to_string(failure.code)),
@@ -108,8 +105,7 @@ TEST_F(AtChains, MayBeAnsweredBeforeEachSendReturns)
     }
     chain->start(client, &caller, Caller::onResult);
     drainTimer();
-    EXPECT_EQ(caller.calls, 1);
-    EXPECT_EQ(caller.result, 0);
+    expectEnd(0);
 }
 
 TEST_F(AtChains, PauseAfterACommand)
@@ -132,8 +128,7 @@ TEST_F(AtChains, PauseAfterACommand)
     EXPECT_EQ(command(), "AT+C\r\n");
     EXPECT_EQ(caller.calls, 0);
     modem.answer(answer("OK"));
-    EXPECT_EQ(caller.calls, 1);
-    EXPECT_EQ(caller.result, 0);
+    expectEnd(0);
 }
 
 TEST_F(AtChains, SucceedWithoutCommandsFromTheTimer)
@@ -144,9 +139,7 @@ TEST_F(AtChains, SucceedWithoutCommandsFromTheTimer)
         Caller::onResult(user, code, rsp);
     });
     drainTimer();
-    EXPECT_EQ(caller.calls, 1);
-    EXPECT_EQ(caller.result, 0);
-    EXPECT_TRUE(allZero(caller.record));
+    expectEnd(0);
     EXPECT_TRUE(thread != std::this_thread::get_id());
 }
 
@@ -164,8 +157,7 @@ TEST_F(AtChains, NeedTheSameStackWhateverTheirLength)
         for (int i = 0; i < (succeeds ? kLength : 1); ++i) {
             modem.answer(answer(last));
         }
-        EXPECT_EQ(caller.calls, 1);
-        EXPECT_EQ(caller.result, succeeds ? 0 : 1);
+        expectEnd(succeeds ? 0 : 1);
     }
 }
 

@@ -1,5 +1,5 @@
-#include "at_fixture.h"
 #include "mindroid/exception.h"
+#include "support/at_fixture.h"
 
 using namespace test;
 using mindroid::Parcel;

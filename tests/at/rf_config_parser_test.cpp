@@ -1,5 +1,5 @@
 #include "at/rf_config_parser.h"
-#include "at_fixture.h"
+#include "support/at_fixture.h"
 
 #include <cstdlib>
 
@@ -65,26 +65,4 @@ TEST_F(RfConfig, KnowsItsCommandNames)
         std::free(text);
     }
     EXPECT_EQ(RfConfigParser::getAtCmd("rat", "1"), nullptr);
-}
-
-TEST_F(RfConfig, FixesAPositionWithTheListedCommands)
-{
-    instance.root.write(
-        kFile, R"(<feature id="3"><atcmd index="0"><cmd command="rat-4">1</cmd><cmd>AT+B</cmd></atcmd>
-                         <atcmd index="1"/><atcmd index="2"><cmd>AT+A&#10;AT+B</cmd></atcmd></feature>)");
-    for (const int code : {0, 1}) {
-        ASSERT_EQ(radioSetAsdivFixPosition(3, 0, &caller, Caller::onResult), 0);
-        EXPECT_EQ(command(), "AT+ETXANT=4,1\r\n");
-        modem.answer(answer("OK"));
-        EXPECT_EQ(command(), "AT+B\r\n");
-        modem.answer(answer(code == 0 ? "OK" : "ERROR"));
-        EXPECT_EQ(caller.result, code);
-    }
-    EXPECT_EQ(caller.calls, 2);
-    for (const auto& [feature, index] :
-         {std::pair(3, 1), std::pair(3, 2), std::pair(3, 9), std::pair(4, 0)}) {
-        EXPECT_EQ(radioSetAsdivFixPosition(feature, index, &caller, Caller::onResult), 1);
-    }
-    EXPECT_TRUE(log.has("E VornAtClient: setAsdivFixPosition : no commands for feature 4, index 0"));
-    EXPECT_TRUE(modem.sent.empty());
 }

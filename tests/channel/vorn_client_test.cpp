@@ -8,7 +8,7 @@ using namespace test;
 namespace {
 
 struct TestClient : VornClient {
-    explicit TestClient(int instance) : VornClient(instance, nullptr, 0) {}
+    explicit TestClient(int instance) : VornClient("TestClient", instance, nullptr, 0) {}
 
     int request(Caller& caller, RadioRequestCallback cb = Caller::onResult)
     {

@@ -1,4 +1,4 @@
-#include "frame_stream.h"
+#include "host/wire/frame_stream.h"
 #include "support/fields.h"
 
 #include <gtest/gtest.h>

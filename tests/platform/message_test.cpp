@@ -1,4 +1,4 @@
-#include "message.h"
+#include "host/wire/message.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,8 @@
 // The message library as its callers see it, with the simulated modem inside.
+#include "inbox.h"
+
 #include "host/log_sink.h"
-#include "vorn/vorn_msg.h"
+#include "host/vorn_control.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -36,6 +38,34 @@ TEST(Vorn, opensWhatTheDeviceNameStandsFor)
         vorn_deinit();
     }
     host::setLogSink(nullptr);
+}
+
+TEST(Vorn, answersAreObservedRightBeforeTheirCallbacks)
+{
+    struct Round {
+        size_t observed = 0; ///< by the delivery thread alone, until the observer is gone
+        Inbox<size_t> answers;
+    };
+    const auto observe = [](const vorn_msg_t*, void* user) { ++static_cast<Round*>(user)->observed; };
+    const auto onAnswer = [](vorn_msg_t*, void* user) {
+        static_cast<Round*>(user)->answers.add(static_cast<Round*>(user)->observed);
+    };
+    SETCOM("embedded");
+    ASSERT_EQ(vorn_init_debug("test"), 0);
+    vorn_msg_t* request = vorn_msg_init(0x3813, 1);
+    for (int i = 0; i < 100; ++i) {
+        Round round;
+        vorn_host_observe(observe, &round);
+        for (int n = 0; n < 3; ++n) {
+            EXPECT_EQ(vorn_msg_async_api(request, onAnswer, 0, &round), 0);
+        }
+        EXPECT_EQ(round.answers.waitFor(1).front(), 1U);
+        vorn_host_observe(nullptr, nullptr);
+        const size_t observed = round.observed;
+        EXPECT_EQ(round.answers.waitFor(3).back(), observed);
+    }
+    vorn_msg_deinit(request);
+    vorn_deinit();
 }
 
 } // namespace

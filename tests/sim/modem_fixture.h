@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/log_sink.h"
-#include "message.h"
+#include "host/wire/message.h"
 #include "scenario_data.h"
 #include "sim/modem.h"
 #include "value.h"

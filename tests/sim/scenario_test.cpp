@@ -35,11 +35,8 @@ TEST_F(Scenarios, ErrorsTellPlaceAndReason)
         {R"({"slots": [{"settings": [{"message": "SetSarState", "fields": {"source": 1}}]}]})",
          "/slots/0/settings/0/fields/state: missing"},
         {R"({"simTrays": 1})", "/simTrays: must be a list"},
-        {R"({"faults": [{"action": "explode"}]})", "/faults/0/action: must be one of drop, delay, late"},
         {R"({"faults": [{"action": "drop", "count": 1, "probability": 1}]})",
          "/faults/0/probability: can't stand next to a count"},
-        {R"({"faults": [{"action": "drop", "match": {"message": "TestInd"}}]})",
-         "/faults/0/match/message: unknown request"},
         {R"({"faults": [{"action": "drop", "match": {"at": "AT\""}}]})",
          "/faults/0/match/at: is no AT command"},
         {R"({"timeline": [{"at": 1, "slot": 3, "message": "TestInd", "fields": {"data": 1}}]})",
@@ -93,7 +90,11 @@ class Control : public ModemTest {};
 
 TEST_F(Control, Errors)
 {
-    const std::pair<std::string, std::string> rows[] = {
+    const struct {
+        std::string command;
+        std::string error;
+        std::string known = ""; ///< one of the names that the answer lists
+    } rows[] = {
         {"7", "/: must be an object"},
         {R"({"command": "fly"})", "/command: unknown command"},
         {R"({"command": "state", "slot": 1})", "/slot: unknown name"},
@@ -105,13 +106,18 @@ TEST_F(Control, Errors)
          "/value: only suits an indication whose one field is a number"},
         {R"({"command": "indicate", "message": "test", "slot": 0, "value": 1, "fields": {}})",
          "/value: can't stand next to fields"},
-        {R"({"command": "indicate", "message": "set-sar-state", "slot": 0})", "/message: unknown indication"},
+        {R"({"command": "indicate", "message": "set-sar-state", "slot": 0})", "/message: unknown", "TestInd"},
+        {R"({"command": "fault-add", "fault": {"action": "fly"}})",
+         "/fault/action: must be one of drop, delay", "late"},
+        {R"({"command": "fault-add", "fault": {"action": "drop", "match": {"message": "TestInd"}}})",
+         "/fault/match/message: unknown request", "SetSarState"},
         {R"({"command": "load", "scenario": {"seed": "x"}})", "/seed: must be a whole number"},
     };
-    for (const auto& [command, error] : rows) {
+    for (const auto& [command, error, known] : rows) {
         const auto answer = control(command);
         EXPECT_FALSE(answer["ok"]) << command;
         EXPECT_THAT(answer["error"], HasSubstr(error));
+        EXPECT_THAT(answer.value("known", std::vector{known}), testing::Contains(known));
     }
     EXPECT_TRUE(mIndications.empty());
 }

@@ -89,9 +89,10 @@ TEST_F(SimCards, NeedPower)
         EXPECT_THAT(ask(1353, {{256, u8(1)}, {257, u8(on)}}), ElementsAre(Pair(0, i32(0))));
         return ask(555)[258];
     };
+    ask(3, {{0x8100, text("AT+ESBP=5,\"SBP_DSDA\",2")}});
     EXPECT_EQ(power(0), u8(0)) << "one of two cards";
     ASSERT_EQ(mIndications.size(), 2U);
-    EXPECT_THAT(mIndications[0].fields, ElementsAre(Pair(257, u8(0)), Pair(258, u8(0))));
+    EXPECT_THAT(mIndications[0].fields, ElementsAre(Pair(257, u8(2)), Pair(258, u8(0))));
     EXPECT_THAT(mIndications[1].fields, ElementsAre(Pair(256, u8(1))));
     EXPECT_EQ(challenge(mRand + mAutn), "");
     EXPECT_EQ(power(1), u8(1));

@@ -1,7 +1,7 @@
 /// Fields of messages, written down in tables.
 #pragma once
 
-#include "message.h"
+#include "host/wire/message.h"
 
 #include <algorithm>
 #include <cstring>
@@ -115,6 +115,16 @@ inline Bytes counting(size_t size, uint8_t first = 1)
     Bytes bytes(size);
     std::iota(bytes.begin(), bytes.end(), first);
     return bytes;
+}
+
+/// Bytes that count on from record to record.
+inline std::vector<Bytes> countingRecords(size_t size, size_t count)
+{
+    std::vector<Bytes> records;
+    for (size_t i = 0; i < count; ++i) {
+        records.push_back(counting(size, static_cast<uint8_t>(i * size + 1)));
+    }
+    return records;
 }
 
 /// A record that is made of these bytes.

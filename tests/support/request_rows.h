@@ -7,9 +7,6 @@
 
 #include <gmock/gmock.h>
 
-#include <map>
-#include <set>
-
 namespace test {
 
 /// A caller who counts.
@@ -53,6 +50,13 @@ Call call(int (Client::*method)(Parameters...), Arguments... arguments)
     };
 }
 
+/// One text, or several.
+struct Texts : std::vector<std::string> {
+    using vector::vector;
+    Texts(const char* only) : vector{only} {}
+    Texts(const std::string& only) : vector{only} {}
+};
+
 /// How a request tells of the modem's failure.
 enum class Failure {
     Result, ///< by its result, without a record
@@ -60,31 +64,58 @@ enum class Failure {
     Flag,   ///< so too, but the record's first word is 1
     Code,   ///< or the modem's result
 };
+using enum Failure;
 
 struct RequestRow {
-    const char* name;
+    Texts log; ///< all that its client and the exported function log on instance 2; none: not looked at
     Call call;
     uint16_t id;
     Fields request;
     Fields answer = {}; ///< besides the result
     Bytes record = {};  ///< its front; the rest is zero
-    Failure failure = Failure::Result;
+    Failure failure = Result;
 };
 
 /// A request that is answered with the modem's verdict only.
 template <typename Function, typename... Arguments>
-RequestRow setter(const char* name, Function function, uint16_t id, const Fields& fields,
+RequestRow setter(const Texts& log, Function function, uint16_t id, const Fields& fields,
                   Arguments... arguments)
 {
-    return {name, call(function, arguments...), id, fields};
+    return {log, call(function, arguments...), id, fields};
 }
 
-/// A request that ends in success whatever the modem says.
+/// One that sends its arguments, in fields of 32 bits.
+inline RequestRow setter(const Texts& log, int (*function)(int, void*, RadioRequestCallback), uint16_t id)
+{
+    return setter(log, function, id, {int32(256, -3)}, -3);
+}
+
+inline RequestRow setter(const Texts& log, int (*function)(int, int, void*, RadioRequestCallback),
+                         uint16_t id)
+{
+    return setter(log, function, id, int32s(256, {1, -2}), 1, -2);
+}
+
+/// One that sends a record as it is.
+template <typename Record>
+RequestRow setter(const Texts& log, int (*function)(const Record&, void*, RadioRequestCallback), uint16_t id,
+                  size_t size)
+{
+    return setter(log, function, id, {raw(256, counting(size))}, recordOf<Record>(counting(size)));
+}
+
+/// A request whose record is filled from an answer.
 template <typename Function, typename... Arguments>
-RequestRow query(Failure failure, const char* name, Function function, uint16_t id, const Fields& request,
+RequestRow query(Failure failure, const Texts& log, Function function, uint16_t id, const Fields& request,
                  const Fields& answer, const Bytes& record, Arguments... arguments)
 {
-    return {name, call(function, arguments...), id, request, answer, record, failure};
+    return {log, call(function, arguments...), id, request, answer, record, failure};
+}
+
+/// The record of a blob of which `kept` bytes are left.
+inline Bytes blob(uint32_t kept)
+{
+    return joined({packed(kept), counting(kept)});
 }
 
 /// Checks that a record is these bytes and zeros.
@@ -95,16 +126,9 @@ inline void expectRecord(const Rsp& rsp, Bytes expected)
     EXPECT_EQ(differing, expected.end()) << "first at byte " << differing - expected.begin();
 }
 
-inline bool allZero(const RadioApisResultType& record)
-{
-    const auto* bytes = reinterpret_cast<const uint8_t*>(&record);
-    return std::all_of(bytes, bytes + sizeof record, [](uint8_t byte) { return byte == 0; });
-}
-
 /// The row's message leaves on its slot, and its answer becomes its record.
 inline void checkRow(const RequestRow& row, unsigned instance)
 {
-    SCOPED_TRACE(testing::Message() << row.name << " on instance " << instance);
     auto& modem = FakeModem::instance();
     auto caller = std::make_unique<Caller>();
     ASSERT_EQ(row.call(caller.get(), Caller::onResult), 0);
@@ -120,9 +144,8 @@ inline void checkRow(const RequestRow& row, unsigned instance)
 }
 
 /// Refused sends end without a callback; failing answers with the mapped code, or with what came along.
-inline void checkFailures(const RequestRow& row)
+inline void checkFailures(const RequestRow& row, const std::string& tag)
 {
-    SCOPED_TRACE(row.name);
     auto& modem = FakeModem::instance();
     auto caller = std::make_unique<Caller>();
     modem.sendResult = -7;
@@ -133,23 +156,28 @@ inline void checkFailures(const RequestRow& row)
     ASSERT_EQ(row.call(caller.get(), Caller::onResult), 0);
     modem.answer(joined({{result(21)}, row.answer}));
     EXPECT_EQ(caller->calls, 1);
-    const bool inRecord = row.failure != Failure::Result;
+    const bool inRecord = row.failure != Result;
     EXPECT_EQ(caller->result, inRecord ? RADIO_APIS_SUCCESS : RADIO_APIS_INVALID_PARAMETER);
     ASSERT_EQ(caller->hadRecord, inRecord);
     if (inRecord) {
         Bytes record = row.record;
-        if (row.failure != Failure::Untold) {
+        if (row.failure != Untold) {
             record.resize(std::max<size_t>(record.size(), 4));
-            std::ranges::copy(packed(row.failure == Failure::Flag ? 1 : 21), record.begin());
+            std::ranges::copy(packed(row.failure == Flag ? 1 : 21), record.begin());
         }
         expectRecord(caller->record.rsp, record);
+
+        const LogCapture log;
+        row.call(caller.get(), Caller::onResult);
+        modem.answerWith(nullptr);
+        EXPECT_EQ(caller->calls, 1);
+        EXPECT_TRUE(log.has("E " + tag + ": operator() : invalid vorn response"));
     }
 }
 
 /// The answer may be there before the function returns.
 inline void checkEarlyAnswer(const RequestRow& row)
 {
-    SCOPED_TRACE(row.name);
     auto caller = std::make_unique<Caller>();
     FakeModem::instance().answerBeforeSendReturns({result(0)});
     EXPECT_EQ(row.call(caller.get(), Caller::onResult), 0);
@@ -160,7 +188,6 @@ inline void checkEarlyAnswer(const RequestRow& row)
 /// Every kind of field that an answer may wrongly hold, for all field ids that the row's own answer has.
 inline void checkHostileAnswers(const RequestRow& row)
 {
-    SCOPED_TRACE(row.name);
     auto& modem = FakeModem::instance();
     auto caller = std::make_unique<Caller>();
     const auto huge = std::vector<Bytes>(300, Bytes(100, 0xFF));
@@ -188,62 +215,72 @@ inline void checkHostileAnswers(const RequestRow& row)
     }
 }
 
-/// What is logged under a tag, by row; rows that are not listed log that they were entered. Lines of the exported
-/// functions are given in full.
-using LogLines = std::map<std::string, std::vector<std::string>>;
-
-/// The rows, of those of one name the first, log these lines and no other ones when they are answered on instance 2.
-inline void checkLog(const std::vector<RequestRow>& rows, const std::string& tag, const LogLines& lines)
+/// The row's lines and no others. Those that are not its client's debug lines are given in full.
+inline void checkLog(const RequestRow& row, const std::string& tag)
 {
-    const Instance instance(2);
-    std::set<std::string> seen;
-    for (const RequestRow& row : rows) {
-        if (!seen.insert(row.name).second) {
-            continue;
-        }
-        const auto caller = std::make_unique<Caller>();
-        const LogCapture log;
-        row.call(caller.get(), Caller::onResult);
-        FakeModem::instance().answer(joined({row.answer, {result(0)}}));
+    const auto caller = std::make_unique<Caller>();
+    const LogCapture log;
+    row.call(caller.get(), Caller::onResult);
+    FakeModem::instance().answer(joined({row.answer, {result(0)}}));
 
-        const auto listed = lines.find(row.name);
-        std::vector<std::string> expected =
-            listed == lines.end() ? std::vector{std::string(row.name) + " - enter"} : listed->second;
-        for (std::string& line : expected) {
-            line.insert(0, line.find(kApiTag) == std::string::npos ? "D " + tag + ": " : "");
-        }
-        std::vector<std::string> logged = log.lines();
-        std::erase_if(logged, [&](const std::string& line) {
-            return line.find(tag + ":") != 2 && line.find(kApiTag) != 2;
-        });
-        EXPECT_EQ(logged, expected) << row.name;
+    Texts expected = row.log;
+    for (std::string& line : expected) {
+        line.insert(0, line.find("Vorn") == 2 ? "" : "D " + tag + ": ");
     }
+    std::vector<std::string> logged = log.lines();
+    std::erase_if(logged, [&](const std::string& line) {
+        return line.find(tag + ":") != 2 && line.find(kApiTag) != 2;
+    });
+    EXPECT_EQ(logged, expected);
 }
 
-/// All of the above, on every instance. An answer of which nothing is read can't be hostile.
-inline void checkRows(const std::vector<RequestRow>& rows, const std::string& tag, const LogLines& lines)
+/// All of the above, on every instance, for a client that logs under a tag. An answer of which nothing is read can't
+/// be hostile.
+inline void checkRows(const std::string& tag, const std::vector<RequestRow>& rows)
 {
     for (unsigned number = 0; number < kInstances; ++number) {
         const Instance instance(number);
         for (const RequestRow& row : rows) {
+            SCOPED_TRACE(testing::Message() << "row " << &row - rows.data() << ", message 0x" << std::hex
+                                            << row.id << ", instance " << number);
             checkRow(row, number);
+            if (number == 0) {
+                checkFailures(row, tag);
+                checkEarlyAnswer(row);
+            }
+            if (number == 0 && (row.failure != Result || !row.record.empty())) {
+                checkHostileAnswers(row);
+            }
+            if (number == 2 && !row.log.empty()) {
+                checkLog(row, tag);
+            }
         }
     }
-    const Instance instance(0);
-    for (const RequestRow& row : rows) {
-        checkFailures(row);
-        checkEarlyAnswer(row);
-        if (row.failure != Failure::Result || !row.record.empty()) {
-            checkHostileAnswers(row);
-        }
-    }
-    checkLog(rows, tag, lines);
 }
 
-/// The line of exported functions that log their instance, as for checkLog.
+inline void checkVendorRows(const std::vector<RequestRow>& rows)
+{
+    checkRows("VornVsClient", rows);
+}
+
+inline void checkStandardRows(const std::vector<RequestRow>& rows)
+{
+    checkRows("VornRadioClient", rows);
+}
+
+/// The line of exported functions that log their instance.
 inline std::string entered(const std::string& function)
 {
     return "D VornApis: " + function + " : " + function + " tlssubid 2";
+}
+
+/// Calls that are sent, and answered once.
+inline void checkAccepted(const Call& accepted)
+{
+    const auto caller = std::make_unique<Caller>();
+    ASSERT_EQ(accepted(caller.get(), Caller::onResult), 0);
+    FakeModem::instance().answer({result(0)});
+    EXPECT_EQ(caller->calls, 1);
 }
 
 /// A call that is refused calls and sends nothing, and logs this.
@@ -256,6 +293,49 @@ inline void checkRefusal(const Call& refused, int code, const std::string& line)
     EXPECT_TRUE(FakeModem::instance().sent.empty());
     EXPECT_EQ(caller->calls, 0);
     EXPECT_EQ(log.count(line), 1);
+}
+
+struct Refusal {
+    Call call;
+    std::string line;
+    int code = 1;
+};
+
+/// Their lines begin alike.
+inline void checkRefusals(const std::string& begin, const std::vector<Refusal>& rows)
+{
+    const Instance instance(1);
+    for (const Refusal& row : rows) {
+        checkRefusal(row.call, row.code, begin + row.line);
+    }
+}
+
+/// Calls with an argument that does not fit, of the client that logs under a tag.
+inline void checkInvalid(const std::string& tag, const std::vector<Call>& calls)
+{
+    const Instance instance(1);
+    for (const Call& refused : calls) {
+        checkRefusal(refused, 11, "E " + tag + ": invalid paramter found");
+    }
+}
+
+/// Lists of the caller's are sent when there are values, or none are counted, up to what a field holds. The list comes
+/// behind the other arguments.
+template <typename Value, typename Function, typename... Arguments>
+void checkListLimits(Function function, Arguments... arguments)
+{
+    const Instance instance(0);
+    std::vector<Value> values(65546);
+    for (const bool missing : {false, true}) {
+        for (const unsigned count : {0U, 1U, 65535U, 65536U, 65546U}) { // the last one is 10 in 16 bits
+            const Call request = call(function, arguments..., missing ? nullptr : values.data(), count);
+            if (count > (missing ? 0 : 65535)) {
+                checkRefusal(request, 11, "E VornVsClient: invalid paramter found");
+            } else {
+                checkAccepted(request);
+            }
+        }
+    }
 }
 
 } // namespace test

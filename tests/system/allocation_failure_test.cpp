@@ -6,15 +6,18 @@
 ///   allocation_failure_test all [NAME...]              all cases, or those of these names
 ///   allocation_failure_test one NAME THREAD N [later]  one case in this process, for a debugger: break on _exit
 #include "embedded_link.h"
+#include "interface/text.h"
+#include "interface/words.h"
 #include "links.h"
-#include "radioctl/batch.h"
-#include "radioctl/command.h"
+#include "radioctl/program.h"
 #include "support/failing_memory.h"
 #include "system/examples.h"
 
 #include "mindroid/promise.h"
 #include "radio/indications.h"
 #include "vs/indications.h"
+
+#include <fmt/format.h>
 
 #include <condition_variable>
 #include <cstring>
@@ -346,9 +349,10 @@ Case requestCase(const std::string& line)
     const auto onAnswer = [](void* user, RADIO_APIS_RESULT, RadioApisResultType*) {
         count(*static_cast<std::atomic<int>*>(user));
     };
-    const auto call = radioctl::parseRequest(radioctl::splitWords(line));
+    const auto call = radioctl::parseRequest(interface::splitWords(line));
     const auto act = [=](std::atomic<int>& calls) {
-        return call.request->send(call.arguments, {&calls, onAnswer});
+        interface::Arguments arguments = call.arguments;
+        return call.request->call(arguments, &calls, onAnswer);
     };
     // Without an instance the library refuses before it allocates: what is allocated now is not its own.
     const memory::TestCode library(false);
@@ -356,7 +360,7 @@ Case requestCase(const std::string& line)
     act(none);
     memory::arm({});
     act(none);
-    return {Case::Request, call.request->name(), init, act, memory::allocations[memory::Caller]};
+    return {Case::Request, std::string(call.request->name), init, act, memory::allocations[memory::Caller]};
 }
 
 Case eventCase(const rpcEventHandlerMap& row)
@@ -385,7 +389,11 @@ std::vector<Case> allCases()
     for (const Example& example : kExamples) {
         cases.push_back(requestCase(example.line));
     }
-    std::ranges::transform(kRefused, std::back_inserter(cases), requestCase);
+    for (const interface::Request& request : interface::requests()) {
+        if (!request.isSupported) {
+            cases.push_back(requestCase(exampleOf(request)));
+        }
+    }
     std::ranges::transform(kVendorIndications, std::back_inserter(cases), eventCase);
     std::ranges::transform(kRadioIndications, std::back_inserter(cases), eventCase);
     const auto add = [&](const char* name, auto prepare, auto act, int calls = 0) {

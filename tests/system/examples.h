@@ -30,13 +30,3 @@ inline std::vector<Example> readExamples(const std::string& path)
 
 /// At least one for each request; getters after what they read.
 inline const std::vector<Example> kExamples = readExamples(DEVICE_ROOT "/../every-request.txt");
-
-/// Requests that the library refuses.
-inline const std::set<std::string> kRefused = {"set-tas-force-idx-by-rat 1 2 3 4",
-                                               "set-max-tx-power 1 2 3",
-                                               "set-rf-tx-info rat=1",
-                                               "get-tx-adc",
-                                               "set-rf-tx-power band=1",
-                                               "set-combo-rf-tx-info",
-                                               "get-simlock-lock-status",
-                                               "set-ust5g-uc-config 1 2 3"};

@@ -1,6 +1,6 @@
 #include "server.h"
 
-#include "command_message.h"
+#include "host/wire/command_message.h"
 
 #include <fmt/format.h>
 

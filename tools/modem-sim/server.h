@@ -1,7 +1,7 @@
 /// The simulated modem behind a Unix socket.
 #pragma once
 
-#include "connection.h"
+#include "host/wire/connection.h"
 #include "sim/modem.h"
 #include "sim/trace.h"
 

@@ -60,13 +60,14 @@ PlacesByKind shuffledPlaces(const WorkTree& tree, uint64_t seed)
     return places;
 }
 
-/// The tests of the changed file's folder, then those of the other folders, then those of the whole.
+/// The tests of the changed file's folder and of requests, which all folders serve; then those of the other folders,
+/// then those of the whole.
 std::vector<std::vector<TestProgram>> stagesFor(const WorkTree& tree, const fs::path& file)
 {
     const std::string folder = file.parent_path().filename();
     std::vector<std::vector<TestProgram>> stages(3);
     for (const TestProgram& program : tree.programs()) {
-        const bool mirrors = fs::path(program.folder()) == folder;
+        const bool mirrors = program.folder() == folder || program.folder() == "requests";
         const bool isWhole = program.folder() == "system";
         stages[mirrors ? 0 : isWhole ? 2 : 1].push_back(program);
     }

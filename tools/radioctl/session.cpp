@@ -1,98 +1,220 @@
 #include "radioctl/session.h"
 
 #include "host/device.h"
+#include "host/log_sink.h"
+#include "host/vorn_control.h"
+#include "radioctl/special.h"
+
+#include "vorn/vorn_msg.h"
 
 #include <fmt/format.h>
 
+#include <atomic>
 #include <condition_variable>
 #include <cstdlib>
-#include <memory>
+#include <cstring>
 #include <mutex>
-#include <optional>
 
 namespace radioctl {
 
 namespace {
 
-/// Shared by the caller, who may give up waiting, and the callback, which comes all the same.
-struct Pending {
-    explicit Pending(const Request& sent) : request(sent) {}
-
-    const Request& request;
+/// The link's state, as the library tells it from a thread of its own. Never destroyed: that thread lives on.
+struct LinkState {
     std::mutex mutex;
-    std::condition_variable answered;
-    std::optional<Outcome> outcome;
+    std::condition_variable changed;
+    bool isUp = true;
+    unsigned losses = 0;
+    unsigned lossesWanted = 0;
+    std::atomic<void (*)(bool)> listener{nullptr};
+
+    static LinkState& instance()
+    {
+        static auto& state = *new LinkState;
+        return state;
+    }
+
+    static void onChange(RADIO_APIS_SERVICE_TYPE /*service*/, RAPIS_CONNECT_STATE state, void* user)
+    {
+        auto& link = *static_cast<LinkState*>(user);
+        const bool isUp = state == RAPIS_CONNECTED;
+        {
+            const std::lock_guard lock(link.mutex);
+            if (std::exchange(link.isUp, isUp) == isUp) {
+                return;
+            }
+            link.losses += isUp ? 0 : 1;
+            link.changed.notify_all();
+        }
+        if (void (*listener)(bool) = link.listener) {
+            listener(isUp);
+        }
+    }
 };
 
-void onAnswer(void* userData, RADIO_APIS_RESULT result, RadioApisResultType* record)
-{
-    const std::unique_ptr<std::shared_ptr<Pending>> owned(static_cast<std::shared_ptr<Pending>*>(userData));
-    Pending& pending = **owned;
-    Outcome outcome{Outcome::Kind::Answered, result, nullptr};
-    if (record != nullptr && result == RADIO_APIS_SUCCESS && pending.request.show) {
-        outcome.record = pending.request.show(record->rsp);
+/// What the modem said last, in words. It says so on the delivery thread, in front of the callbacks, of which some run on
+/// another one.
+class LastAnswer {
+public:
+    static LastAnswer& instance()
+    {
+        static auto& answer = *new LastAnswer;
+        return answer;
     }
-    const std::lock_guard lock(pending.mutex);
-    pending.outcome = std::move(outcome);
-    pending.answered.notify_one();
-}
 
-/// Without a device root there is no property that says that the channel is supported; on a workstation it
-/// is.
-void prepareWorkstation(const SessionOptions& options)
+    std::string text()
+    {
+        const std::lock_guard lock(mMutex);
+        return mText;
+    }
+
+    static void note(const vorn_msg_t* answer, void* user)
+    {
+        auto& last = *static_cast<LastAnswer*>(user);
+        const std::lock_guard lock(last.mMutex);
+        last.mText = textOf(*answer);
+    }
+
+private:
+    static std::string textOf(const vorn_msg_t& answer)
+    {
+        constexpr uint16_t kAtCommand = 3;
+        constexpr uint16_t kAtText = 0x8100;
+        uint16_t length = 0;
+        uint32_t code = 0;
+        if (const void* result = vorn_msg_get_val_ptr(&answer, 0, &length); result != nullptr) {
+            std::memcpy(&code, result, std::min<size_t>(length, sizeof code));
+        }
+        const char* text = answer.hdr.msg_id == kAtCommand ? vorn_msg_get_val_str(&answer, kAtText) : nullptr;
+        if (code != 0 || text == nullptr) {
+            return code == 0 ? "" : fmt::format("result {}", code);
+        }
+        std::string line;
+        for (const char* at = text; *at != '\0'; ++at) {
+            const bool isVisible = *at > ' ' && *at <= '~';
+            const bool separates = !line.empty() && line.back() != ' ';
+            line += isVisible ? std::string(1, *at) : separates ? " " : "";
+        }
+        line.resize(line.find_last_not_of(' ') + 1);
+        return line;
+    }
+
+    std::mutex mMutex;
+    std::string mText;
+};
+
+void prepareEnvironment(const Options& options)
 {
     if (!options.device.empty()) {
         setenv("RADIO_VORN_DEVICE", options.device.c_str(), 1);
     }
     if (options.trace) {
         setenv("RADIO_TRACE", "-", 1);
-        setenv("RADIO_TRACE_FORMAT", options.traceJson ? "json" : "text", 1);
+        setenv("RADIO_TRACE_FORMAT", options.json ? "json" : "text", 1);
     }
+    // Without a device root nothing says that the channel is supported; on a workstation it is.
     if (host::deviceRoot().empty()) {
         host::setProperty("ro.vendor.zor_vorn_support", "1");
         setenv("RADIO_VORN_DEVICE", "embedded", 0);
+    }
+    setenv("RADIO_LOG", options.log.empty() ? "off" : options.log.c_str(), options.log.empty() ? 0 : 1);
+}
+
+/// Opens the channel for an instance. Its errors are told once, by the exception, and not in the log as well.
+void open(unsigned instance)
+{
+    std::string reason;
+    const bool isLogged = std::string_view(std::getenv("RADIO_LOG")) != "off";
+    if (!isLogged) {
+        host::setLogSink([&](const host::LogLine& line) {
+            constexpr int kError = 6;
+            if (line.priority >= kError && reason.empty()) {
+                reason = line.text;
+            }
+        });
+    }
+    const int result = radioApisInit(RADIO_APIS_SERVICE_MODEM, instance);
+    if (!isLogged) {
+        host::setLogSink(nullptr);
+    }
+    if (result == RADIO_APIS_NOT_SUPPORTED) {
+        throw Unreachable(
+            "this device does not support the modem channel (property ro.vendor.zor_vorn_support)");
+    }
+    if (result != RADIO_APIS_SUCCESS) {
+        throw Unreachable(fmt::format("the modem can't be reached: {}",
+                                      reason.empty() ? interface::resultText(result) : reason));
     }
 }
 
 } // namespace
 
-bool Outcome::succeeded() const
+int exitStatus(const Outcome& outcome)
 {
-    return kind == Kind::Answered && result == RADIO_APIS_SUCCESS &&
-           !(record.is_object() && (record.value("failure", 0U) != 0 || record.value("result", 0U) != 0));
+    return outcome.succeeded()                       ? kExitSuccess
+           : outcome.kind == Outcome::Kind::TimedOut ? kExitTimeout
+                                                     : kExitFailure;
 }
 
-Session::Session(const SessionOptions& options) : mTimeout(options.timeout)
+Session::Session(const Options& options) : mInstance(options.instance)
 {
-    prepareWorkstation(options);
-    const int result = radioApisInit(RADIO_APIS_SERVICE_MODEM, options.instance);
-    if (result == RADIO_APIS_NOT_SUPPORTED) {
-        throw std::runtime_error(
-            "this device does not support the modem channel (property ro.vendor.zor_vorn_support)");
-    }
-    if (result != RADIO_APIS_SUCCESS) {
-        throw std::runtime_error(fmt::format("the modem can't be reached (result {})", result));
+    prepareEnvironment(options);
+    open(mInstance);
+    vorn_host_observe(LastAnswer::note, &LastAnswer::instance());
+    registerRadioApisEvent(RADIO_APIS_SERVICE_MODEM, &LinkState::instance(), LinkState::onChange);
+}
+
+Session::~Session()
+{
+    vorn_host_observe(nullptr, nullptr);
+}
+
+void Session::use(const Options& options)
+{
+    if (std::exchange(mInstance, options.instance) != options.instance) {
+        open(mInstance);
     }
 }
 
-Outcome Session::run(const Request& request, const Arguments& arguments) const
+Outcome Session::run(const interface::Request& request, interface::Arguments arguments,
+                     const Options& options)
 {
-    const auto pending = std::make_shared<Pending>(request);
-    auto userData = std::make_unique<std::shared_ptr<Pending>>(pending);
-    const int refusal = request.send(arguments, {userData.get(), onAnswer});
-    if (refusal != RADIO_APIS_SUCCESS) {
-        return {Outcome::Kind::Refused, refusal, nullptr};
-    }
-    static_cast<void>(userData.release()); // the callback's, which may have come already
-    std::unique_lock lock(pending->mutex);
-    if (!pending->answered.wait_for(lock, mTimeout, [&] { return pending->outcome.has_value(); })) {
-        return {};
-    }
-    Outcome outcome = *pending->outcome;
-    if (request.showSent && outcome.succeeded()) {
-        outcome.record = request.showSent(arguments);
+    const unsigned lossesBefore = losses();
+    Outcome outcome = interface::call(request, arguments, std::chrono::milliseconds(options.timeout),
+                                      [] { return LastAnswer::instance().text(); });
+    if (outcome.succeeded()) {
+        showSpecially(request, arguments, outcome.record);
+        if (request.function == "radioRequireModemReboot") {
+            expectLoss(lossesBefore + 1);
+        }
     }
     return outcome;
+}
+
+unsigned Session::losses() const
+{
+    LinkState& link = LinkState::instance();
+    const std::lock_guard lock(link.mutex);
+    return link.losses;
+}
+
+void Session::expectLoss(unsigned number)
+{
+    LinkState& link = LinkState::instance();
+    const std::lock_guard lock(link.mutex);
+    link.lossesWanted = number;
+}
+
+bool Session::awaitLink(std::chrono::milliseconds atMost)
+{
+    LinkState& link = LinkState::instance();
+    std::unique_lock lock(link.mutex);
+    return link.changed.wait_for(lock, atMost, [&] { return link.isUp && link.losses >= link.lossesWanted; });
+}
+
+void onLinkChange(void (*changed)(bool isUp))
+{
+    LinkState::instance().listener = changed;
 }
 
 } // namespace radioctl

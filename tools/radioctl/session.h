@@ -1,42 +1,48 @@
 /// The library, as radioctl uses it: one request at a time, waited for.
 #pragma once
 
-#include "radioctl/request.h"
-
-#include <chrono>
-#include <string>
+#include "interface/outcome.h"
+#include "radioctl/options.h"
 
 namespace radioctl {
 
-/// What became of a request.
-struct Outcome {
-    enum class Kind { Answered, Refused, TimedOut };
+using interface::Outcome;
 
-    Kind kind = Kind::TimedOut;
-    int result = 0; ///< the callback's, or the function's when it refused
-    Json record;    ///< null when there is nothing to show
+int exitStatus(const Outcome& outcome);
 
-    /// Whether the modem did what was asked: a record may tell of a failure too.
-    bool succeeded() const;
-};
-
-struct SessionOptions {
-    std::string device; ///< empty: what the device file names
-    unsigned instance = 0;
-    bool trace = false;     ///< to standard error
-    bool traceJson = false; ///< a JSON object per line
-    std::chrono::milliseconds timeout{10000};
+/// The modem can't be reached; the message tells why.
+class Unreachable : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
 };
 
 class Session {
 public:
-    /// Opens the library for one instance. Throws std::runtime_error when the modem can't be reached.
-    explicit Session(const SessionOptions& options);
+    /// Opens the library. Throws Unreachable.
+    explicit Session(const Options& options);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
-    Outcome run(const Request& request, const Arguments& arguments) const;
+    /// Makes this thread address the instance that the options name.
+    void use(const Options& options);
+
+    Outcome run(const interface::Request& request, interface::Arguments arguments, const Options& options);
+
+    /// How often the link was lost.
+    unsigned losses() const;
+
+    /// awaitLink() waits for the link's loss of that number first.
+    void expectLoss(unsigned number);
+
+    /// Waits until the link is up; false when that takes longer.
+    bool awaitLink(std::chrono::milliseconds atMost);
 
 private:
-    std::chrono::milliseconds mTimeout;
+    unsigned mInstance;
 };
+
+/// Calls `changed` whenever the link is lost or back, for the rest of the process's life; null ends that.
+void onLinkChange(void (*changed)(bool isUp));
 
 } // namespace radioctl

@@ -20,6 +20,15 @@ sigset_t endingSignals()
     return signals;
 }
 
+/// Only the main thread waits.
+bool interrupted = false;
+
+bool noted(int signal)
+{
+    interrupted = interrupted || signal == SIGINT || signal == SIGTERM;
+    return signal > 0;
+}
+
 } // namespace
 
 void holdSignals()
@@ -39,12 +48,17 @@ bool awaitEnd(std::optional<std::chrono::milliseconds> atMost)
     if (!atMost) {
         int signal = 0;
         sigwait(&signals, &signal);
-        return true;
+        return noted(signal);
     }
     const auto seconds = std::chrono::floor<std::chrono::seconds>(*atMost);
     const std::chrono::nanoseconds rest = *atMost - seconds;
     const timespec time{static_cast<time_t>(seconds.count()), static_cast<long>(rest.count())};
-    return sigtimedwait(&signals, nullptr, &time) >= 0;
+    return noted(sigtimedwait(&signals, nullptr, &time));
+}
+
+bool isInterrupted()
+{
+    return interrupted || (awaitEnd(std::chrono::milliseconds(0)) && interrupted);
 }
 
 } // namespace radioctl

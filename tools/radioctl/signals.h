@@ -6,8 +6,7 @@
 
 namespace radioctl {
 
-/// Keeps SIGINT and SIGTERM for awaitEnd(). To be called before the library is opened, whose threads inherit
-/// it.
+/// Keeps SIGINT and SIGTERM for awaitEnd(). To be called before the library is opened, whose threads inherit it.
 void holdSignals();
 
 /// Ends a wait from within; from any thread.
@@ -15,5 +14,8 @@ void raiseEnd();
 
 /// Waits for one of those signals or for raiseEnd(), at most as long as told. False when the time is up.
 bool awaitEnd(std::optional<std::chrono::milliseconds> atMost = std::nullopt);
+
+/// Whether such a signal has come; looks for one that nobody has waited for yet.
+bool isInterrupted();
 
 } // namespace radioctl

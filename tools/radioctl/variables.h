@@ -1,7 +1,8 @@
 /// What earlier answers of a batch told, for later lines.
 #pragma once
 
-#include "radioctl/request.h"
+#include "interface/words.h"
+#include "radioctl/options.h"
 
 #include <map>
 #include <string>
@@ -20,6 +21,12 @@ public:
     /// or the same in braces; $$ is a dollar sign. Records and lists come as JSON, all else as text. `text`
     /// loses what was read. Throws UsageError for what isn't there.
     std::string take(std::string_view& text) const;
+
+    /// The words of a line, with the values put in.
+    Words split(std::string_view line) const
+    {
+        return interface::splitWords(line, [this](std::string_view& rest) { return take(rest); });
+    }
 
 private:
     std::map<std::string, Json, std::less<>> mRecords;

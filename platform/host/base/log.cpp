@@ -117,9 +117,12 @@ int logLine(int priority, const char* tag, const char* fmt, va_list arguments) n
     }
 }
 
-bool isWanted(int priority)
+/// What every function below does with its arguments. The check comes first and is, but for the few stores of va_start,
+/// all that a line costs which nobody wants: requests log on their way.
+inline int logIfWanted(int priority, const char* tag, const char* fmt, va_list arguments)
 {
-    return priority >= gThreshold.load(std::memory_order_relaxed);
+    return priority >= gThreshold.load(std::memory_order_relaxed) ? logLine(priority, tag, fmt, arguments)
+                                                                  : 0;
 }
 
 } // namespace
@@ -136,76 +139,56 @@ void setLogSink(LogSink sink)
 
 } // namespace host
 
-// The check comes first and is all that a line costs which nobody wants: requests log on their way.
-
 int zorLogD(const char* tag, const char* fmt, ...)
 {
-    if (!isWanted(ANDROID_LOG_DEBUG)) {
-        return 0;
-    }
     va_list arguments;
     va_start(arguments, fmt);
-    const int length = logLine(ANDROID_LOG_DEBUG, tag, fmt, arguments);
+    const int length = logIfWanted(ANDROID_LOG_DEBUG, tag, fmt, arguments);
     va_end(arguments);
     return length;
 }
 
 int zorLogW(const char* tag, const char* fmt, ...)
 {
-    if (!isWanted(ANDROID_LOG_WARN)) {
-        return 0;
-    }
     va_list arguments;
     va_start(arguments, fmt);
-    const int length = logLine(ANDROID_LOG_WARN, tag, fmt, arguments);
+    const int length = logIfWanted(ANDROID_LOG_WARN, tag, fmt, arguments);
     va_end(arguments);
     return length;
 }
 
 int zorLogE(const char* tag, const char* fmt, ...)
 {
-    if (!isWanted(ANDROID_LOG_ERROR)) {
-        return 0;
-    }
     va_list arguments;
     va_start(arguments, fmt);
-    const int length = logLine(ANDROID_LOG_ERROR, tag, fmt, arguments);
+    const int length = logIfWanted(ANDROID_LOG_ERROR, tag, fmt, arguments);
     va_end(arguments);
     return length;
 }
 
 int __android_log_print(int prio, const char* tag, const char* fmt, ...)
 {
-    if (!isWanted(prio)) {
-        return 0;
-    }
     va_list arguments;
     va_start(arguments, fmt);
-    const int length = logLine(prio, tag, fmt, arguments);
+    const int length = logIfWanted(prio, tag, fmt, arguments);
     va_end(arguments);
     return length;
 }
 
 int mindroid::Log::d(const char* tag, const char* fmt, ...)
 {
-    if (!isWanted(ANDROID_LOG_DEBUG)) {
-        return 0;
-    }
     va_list arguments;
     va_start(arguments, fmt);
-    const int length = logLine(ANDROID_LOG_DEBUG, tag, fmt, arguments);
+    const int length = logIfWanted(ANDROID_LOG_DEBUG, tag, fmt, arguments);
     va_end(arguments);
     return length;
 }
 
 int mindroid::Log::e(const char* tag, const char* fmt, ...)
 {
-    if (!isWanted(ANDROID_LOG_ERROR)) {
-        return 0;
-    }
     va_list arguments;
     va_start(arguments, fmt);
-    const int length = logLine(ANDROID_LOG_ERROR, tag, fmt, arguments);
+    const int length = logIfWanted(ANDROID_LOG_ERROR, tag, fmt, arguments);
     va_end(arguments);
     return length;
 }

@@ -149,12 +149,18 @@ void Transport::deliverAnswer(vorn_msg_t& answer)
         return keyOf(header.slot_id, header.msg_id);
     };
     std::optional<PendingRequest> request;
+    Observer observer;
     {
         const std::lock_guard lock(mMutex);
         const PendingRequest* pending = mPending.find(answer.hdr.tx_id);
         if (pending != nullptr && keyOfHeader(pending->header) == keyOfHeader(answer.hdr)) {
             request = mPending.take(answer.hdr.tx_id);
+            observer = mObserver;
+            mIsObserving = observer.show != nullptr;
         }
+    }
+    if (observer.show != nullptr) {
+        showObserver(observer, answer);
     }
     if (request) {
         call(request->callback, answer, request->user);
@@ -163,6 +169,16 @@ void Transport::deliverAnswer(vorn_msg_t& answer)
                 "dropped a late, repeated or unasked answer: message 0x%04x, slot bit %d, transaction %d",
                 answer.hdr.msg_id, answer.hdr.slot_id, answer.hdr.tx_id);
     }
+}
+
+/// An exception that leaves the observer ends the program, as with callbacks.
+void Transport::showObserver(const Observer& observer, const vorn_msg_t& answer) noexcept
+{
+    observer.show(&answer, observer.user);
+    const std::lock_guard lock(mMutex);
+    mIsObserving = false;
+    ++mObservation;
+    mRunEnded.notify_all();
 }
 
 void Transport::deliverIndication(vorn_msg_t& indication)

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/clock.h"
-#include "message.h"
+#include "host/wire/message.h"
 
 #include <chrono>
 #include <functional>

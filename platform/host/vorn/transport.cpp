@@ -192,6 +192,15 @@ void Transport::waitForIndication(std::unique_lock<std::mutex>& lock, std::optio
     }
 }
 
+void Transport::observe(Observer observer)
+{
+    std::unique_lock lock(mMutex);
+    mObserver = observer;
+    if (mIsObserving && !isDeliveryThread()) {
+        mRunEnded.wait(lock, [this, run = mObservation] { return !mIsObserving || mObservation != run; });
+    }
+}
+
 std::optional<std::string> Transport::control(std::string command)
 {
     auto item = std::make_unique<Command>();

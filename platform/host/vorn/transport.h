@@ -45,6 +45,15 @@ public:
     void unregisterIndication(uint8_t slot, uint16_t messageId);
     void unregisterAllIndications();
 
+    /// Is shown every answer of the modem right before its callback runs.
+    struct Observer {
+        void (*show)(const vorn_msg_t* answer, void* user) = nullptr;
+        void* user = nullptr;
+    };
+
+    /// Takes the place of the former observer, which has returned then, unless it is the caller.
+    void observe(Observer observer);
+
     /// Passes a command to the simulation behind the link and waits for its answer; nothing when there is
     /// none to be had, or none within ten seconds. Not for callbacks.
     std::optional<std::string> control(std::string command);
@@ -88,6 +97,7 @@ private:
     void openLink(const LinkFactory& makeLink, std::chrono::milliseconds patience);
     void forgetQueue();
     void wake(std::unique_lock<std::mutex>& lock);
+    void showObserver(const Observer& observer, const vorn_msg_t& answer) noexcept;
     void waitForIndication(std::unique_lock<std::mutex>& lock, std::optional<IndicationKey> key);
 
     // The delivery thread.
@@ -130,6 +140,9 @@ private:
     std::optional<IndicationKey> mRunning; ///< the indication whose callback runs now
     uint64_t mRunNumber = 0;               ///< tells one run from the next
     std::condition_variable mRunEnded;
+    Observer mObserver;
+    bool mIsObserving = false;
+    uint64_t mObservation = 0; ///< tells one call of the observer from the next
 
     // The delivery thread's own, or the opener's before there is that thread.
     std::unique_ptr<Link> mLink;

@@ -1,8 +1,8 @@
 /// The simulated modem in a process of its own, behind a Unix socket.
 #pragma once
 
-#include "command_message.h"
-#include "connection.h"
+#include "host/wire/command_message.h"
+#include "host/wire/connection.h"
 #include "link.h"
 
 #include <chrono>

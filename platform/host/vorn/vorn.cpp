@@ -130,6 +130,14 @@ void SETCOM(const char* device)
     });
 }
 
+void vorn_host_observe(void (*observer)(const vorn_msg_t* message, void* user), void* user)
+{
+    guarded(__func__, kRefused, [&] {
+        library().transport.observe({observer, user});
+        return 0;
+    });
+}
+
 int vorn_host_control(const char* command, void (*answer)(const char* json, void* user), void* user)
 {
     return guarded(__func__, kRefused, [&] {

@@ -14,6 +14,10 @@
 
 namespace sim {
 
+struct Fault;
+struct Indication;
+struct ScenarioData;
+
 using TimePoint = std::chrono::steady_clock::time_point;
 
 struct MessageDeleter {
@@ -61,7 +65,8 @@ public:
     void forget(ClientId client);
 
     /// A command to the simulation itself, not to the modem. The answer holds "ok", and "error" when that is
-    /// false.
+    /// false; when the error is a name of a message or a fault's action that does not exist, also "known", the list
+    /// of those that do.
     ///   {"command": "state"}                         adds "slots": what each slot of the modem is like
     ///   {"command": "fault-add", "fault": FAULT}     a fault as scenarios write it
     ///   {"command": "fault-clear"}
@@ -75,7 +80,19 @@ public:
     std::string control(const std::string& command, TimePoint now);
 
 private:
-    class State;
+    struct State;
+    struct DueAnswer;
+
+    void load(ScenarioData scenario);
+
+    /// Puts an answer on its way, or what a fault makes of it.
+    void send(DueAnswer due, const std::optional<Fault>& fault, TimePoint now);
+    void deliver(const DueAnswer& due);
+    void follow(const DueAnswer& due, TimePoint now);
+    void indicate(const Indication& indication);
+    void disconnect(std::chrono::milliseconds downFor);
+    void restart(std::chrono::milliseconds downFor);
+
     std::unique_ptr<State> mState;
 };
 

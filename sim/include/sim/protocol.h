@@ -69,6 +69,9 @@ public:
     /// A row by its name, or by its id written as a number ("0x3895", "53"); null when there is none.
     const MessageSpec* find(std::string_view nameOrId) const;
 
+    /// The names of all messages of a kind, in catalogue order.
+    std::vector<std::string> namesOf(MessageKind kind) const;
+
     /// Every tag that stands in any request or response, field 0 included, ascending.
     const std::vector<uint16_t>& tags() const { return mTags; }
 

@@ -34,6 +34,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace sim {
 
@@ -41,6 +42,19 @@ namespace sim {
 class ScenarioError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+};
+
+/// A name that is none of those that there are.
+class UnknownName : public ScenarioError {
+public:
+    UnknownName(const std::string& what, std::vector<std::string> known)
+        : ScenarioError(what), mKnown(std::move(known))
+    {}
+
+    const std::vector<std::string>& known() const { return mKnown; }
+
+private:
+    std::vector<std::string> mKnown;
 };
 
 /// A checked scenario. Everything it does not mention has the value of the built-in one.
