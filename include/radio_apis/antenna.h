@@ -14,7 +14,7 @@ inline constexpr unsigned kRadioMaxTxCarkitBytes = 512; ///< bytes of the longes
 struct RadioTxCarkit {
     uint32_t failure;                     ///< whether the modem reported a failure, 1 or 0 \failure
     uint32_t length;                      ///< number of bytes in `data`; more than 512 are cut
-    uint8_t data[kRadioMaxTxCarkitBytes]; ///< numbers, as the modem writes them \countedby{length}
+    uint8_t data[kRadioMaxTxCarkitBytes]; ///< transmitters, as the modem numbers them \countedby{length}
 };
 
 extern "C" {
@@ -51,8 +51,8 @@ RADIO_API int radioSetAntBlockState(int state, void* userData, RadioRequestCallb
 ///
 /// @param rat    radio access technology, as the modem numbers it \range{0 to 4} \values{4: NR}; for NR an AT command
 ///               is sent, for the others a message
-/// @param state  state of forced antenna selection \values{0: off, 1: on}; others as the modem defines them. For NR the
-///               number itself is sent, for the others the low 8 bits of the number after it
+/// @param state  state of forced antenna selection \values{0: off, 1: on}; for NR the number itself is sent, for the
+///               others the low 8 bits of the number + 1
 /// \user
 /// @param callback  for rats 0 to 3 called once with the modem's verdict and, on success, an empty record. For rat 4
 ///                  called once with RADIO_APIS_SUCCESS when the modem accepted the command, else with

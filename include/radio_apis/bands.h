@@ -41,8 +41,10 @@ struct RadioBandPrefer {
     int32_t rat; ///< radio access technology \values{RadioBandRat}
     /// which bands were asked for \values{0: possible, 1: in use}; of CDMA `bands` is those in use with both
     int32_t current;
-    uint32_t length;                   ///< number of bytes in `bands`
-    uint8_t bands[kRadioMaxBandBytes]; ///< bands, as the head of bands.h explains them \countedby{length}
+    uint32_t length; ///< number of bytes in `bands`
+    /// a bit for each band, the most significant byte first \countedby{length}; the head of bands.h tells which bit is
+    /// which band
+    uint8_t bands[kRadioMaxBandBytes];
 };
 
 inline constexpr unsigned kRadioMaxLteBandWords = 16; ///< words of 32 LTE bands in one answer
@@ -76,8 +78,9 @@ extern "C" {
 /// LTE up to 64 and, when its numbers are small, beyond.
 ///
 /// @param rat     radio access technology \values{RadioBandRat}; only its low 16 bits count
-/// @param bands   bands as bytes, which the head of bands.h explains \range{4 to 65404, multiple of 4}
-///                \countedby{length}; of GSM, UMTS and CDMA the first four count
+/// @param bands   a bit for each band, the most significant byte first \range{4 to 65404, multiple of 4}
+///                \countedby{length}; the head of bands.h tells which bit is which band. Of GSM, UMTS and CDMA the
+///                first four bytes count
 /// @param length  number of bytes
 /// \user
 /// @param callback  called once with RADIO_APIS_SUCCESS when the modem accepted the bands, else with

@@ -69,7 +69,7 @@ struct RadioLockCellInfoType {
     int32_t bandIndicator; ///< band indicator of the frequency, as the modem numbers it \range{0 to 1}
     int32_t arfcn;         ///< downlink EARFCN or NR-ARFCN of the cell
     int32_t pci;           ///< physical cell identity
-    int32_t mode; ///< mode of the lock; 1 and 2 each add a value to the end of the command, others don't
+    int32_t mode; ///< mode of the lock: 1 and 2 each add a value to the end of the command, others don't
 };
 static_assert(sizeof(RadioLockCellInfoType) == 20);
 

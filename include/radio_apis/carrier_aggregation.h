@@ -152,9 +152,9 @@ RADIO_API int radioSetUst5gUCBandConfig(const char* lteBands, const char* nrBand
 
 /// Sets user capabilities in 5G (not supported by the library).
 ///
-/// @param value1  first value \unused
-/// @param value2  second value \unused
-/// @param value3  third value \unused
+/// @param value1  first value of the capabilities \unused
+/// @param value2  second value of the capabilities \unused
+/// @param value3  third value of the capabilities \unused
 /// \unsupported
 RADIO_API int radioSetUst5gUCConfig(unsigned char value1, unsigned char value2, unsigned char value3,
                                     void* userData, RadioRequestCallback callback);

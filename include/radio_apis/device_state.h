@@ -8,17 +8,17 @@
 
 #include <cstdint>
 
-/// For requests whose answer is no more than the modem's verdict.
+/// Result of requests whose answer is no more than the modem's verdict.
 struct RadioModemVerdict {
     uint32_t failure; ///< whether the modem reported a failure: 1, otherwise 0 \failure
 };
 
-/// Result of radioGetFeatureState.
+/// Result of radioGetFeatureState: the state of a modem feature.
 struct RadioFeatureState {
     uint32_t state; ///< state of the feature, as last set; 0 when the modem does not say
 };
 
-/// Result of radioSendDeviceStateExt.
+/// Result of radioSendDeviceStateExt: what the modem made of the state.
 struct RadioDeviceStateExt {
     uint32_t result;        ///< the modem's result code; 0 means success \failure
     int32_t deviceStateExt; ///< extended state of the device that the modem now assumes

@@ -20,7 +20,7 @@ struct RadioAdaptiveHandoverThreshold {
 };
 static_assert(sizeof(RadioAdaptiveHandoverThreshold) == 24);
 
-/// An RTP session. As on the wire.
+/// An RTP session of an IMS call. As on the wire.
 struct RadioImsRtpInfo {
     int32_t id;    ///< identifier of the call
     int32_t state; ///< state of the session, as the modem defines it
@@ -33,7 +33,7 @@ struct RadioImsRtpThresholdInfo {
 };
 static_assert(sizeof(RadioImsRtpThresholdInfo) == 36);
 
-/// Result of radioGetImsUssdEnabled.
+/// Result of radioGetImsUssdEnabled: whether supplementary services go over IMS.
 struct RadioImsUssd {
     int32_t enabled; ///< whether supplementary services go over IMS \values{0: off, 1: on}
 };
@@ -56,7 +56,7 @@ RADIO_API int radioSetImsAudioQualityThreshold(const RadioImsAudioQualityThresho
 RADIO_API int radioSetAdaptiveHandoverThreshold(const RadioAdaptiveHandoverThreshold& threshold,
                                                 void* userData, RadioRequestCallback callback);
 
-/// Tells the modem of an RTP session.
+/// Tells the modem of an RTP session of an IMS call.
 ///
 /// @param info  the RTP session; sent as it is
 /// \verdict
@@ -87,8 +87,8 @@ RADIO_API int radioSetCiwlanUiSwitch(bool enable, void* userData, RadioRequestCa
 
 /// Names the gateway of calls over Wi-Fi (ePDG, 3GPP TS 23.003).
 ///
-/// @param fqdn  fully qualified domain name of the gateway \range{0 to 224}; a longer command is cut at its end
-///              without a word
+/// @param fqdn  fully qualified domain name of the gateway \range{0 to 224}; with more bytes the command is
+///              cut at its end without a word
 /// \command
 /// \sent{as for null, or a control character or double quote in the text}
 RADIO_API int radioSetCarrierOmacpFqdn(const char* fqdn, void* userData, RadioRequestCallback callback);

@@ -9,7 +9,7 @@
 
 #include <cstdint>
 
-/// Result of radioGetMetricsData.
+/// Result of radioGetMetricsData: metrics that were collected.
 struct RadioMetricsData {
     uint32_t length;     ///< number of bytes in `data`; a longer answer is cut
     uint8_t data[16384]; ///< metrics, as the modem defines them \countedby{length}
@@ -18,7 +18,7 @@ struct RadioMetricsData {
     int32_t state;       ///< state of the collection, as the modem defines it; 0 when the modem does not say
 };
 
-/// Result of radioGetAtomData: data of an application, as the modem defines it.
+/// Result of radioGetAtomData: data that atoms collected, as the modem defines it.
 using RadioAtomData = RadioBlob<4096>;
 
 /// Result of radioGetNecData: data of the network evaluation, as the modem defines it.

@@ -8,7 +8,7 @@
 
 #include <cstdint>
 
-/// Result of radioGetMsimSubModeState.
+/// Result of radioGetMsimSubModeState: how the modem serves several SIM cards.
 struct RadioMsimSubModeState {
     uint32_t failure; ///< whether the modem reported a failure: 1, otherwise 0 \failure
     uint32_t subMode; ///< way to serve several SIM cards, as the modem numbers it \range{0 to 255}
@@ -23,8 +23,8 @@ extern "C" {
 /// \sent
 RADIO_API int radioGetMsimSubModeState(void* userData, RadioRequestCallback callback);
 
-/// Sets from which level on the modem prefers to serve both SIM cards at the same time (DSDA). With rat 4 the
-/// modem counts in quarters: thresholds are sent multiplied by 4, and only -8192 to 8191 fit the 16 bits that are sent.
+/// Sets from which level on the modem prefers to serve both SIM cards at once (DSDA). With rat 4 the modem
+/// counts in quarters: thresholds are sent multiplied by 4, and only -8192 to 8191 fit the 16 bits that are sent.
 ///
 /// @param rat      radio access technology, as the modem numbers it: 4 or 7 \range{4 to 7}; others are refused
 /// @param thresh1  first threshold \range{-32768 to 32767}; with rat 4 it is sent multiplied by 4

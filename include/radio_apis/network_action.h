@@ -71,7 +71,7 @@ struct RadioActionCellList {
     RadioActionCellInfo cells[kRadioMaxActionCells];
 };
 
-/// A network action.
+/// A network action: an instruction of the device's network optimisation.
 struct RadioActionConfigType {
     int32_t id;              ///< number of the action
     int32_t type;            ///< kind of action, as the modem numbers it
@@ -89,7 +89,7 @@ struct RadioActionConfigType {
     RadioActionCellList second; ///< second list of cells
 };
 
-/// Result of radioGetNetworkActionState.
+/// Result of radioGetNetworkActionState: the state of a network action.
 struct RadioNetworkActionState {
     int32_t id;     ///< number of the action
     int32_t state;  ///< state of the action, as the modem defines it
@@ -98,7 +98,7 @@ struct RadioNetworkActionState {
 
 extern "C" {
 
-/// Sends an instruction of the device's network optimisation, a network action. The modem reports its outcome with RADIO_EVENT_NETWORK_ACTION_RESULT_IND.
+/// Sends a network action. The modem reports its outcome with RADIO_EVENT_NETWORK_ACTION_RESULT_IND.
 ///
 /// @param action  the action and the cells that it aims at
 /// \verdict

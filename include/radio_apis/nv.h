@@ -10,7 +10,7 @@
 
 inline constexpr unsigned kRadioMaxNvBytes = 20480; ///< bytes in the longest item
 
-/// Result of radioReadNv.
+/// Result of radioReadNv: the contents of one item.
 struct RadioNvItem {
     uint32_t failure;               ///< whether the modem reported a failure: 1, otherwise 0 \failure
     uint16_t dataLen;               ///< number of bytes in `data`; a longer item is cut

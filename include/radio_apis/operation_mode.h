@@ -22,7 +22,7 @@ enum RadioFunctionality : int32_t {
     RADIO_FUNCTIONALITY_RADIO_OFF = 4 ///< \label{radio off}: neither sends nor receives
 };
 
-/// Result of radioGetOperationMode.
+/// Result of radioGetOperationMode: the level of functionality.
 struct RadioOperationMode {
     uint32_t failure; ///< always 0: a failure of the modem is the callback's result \unused
     uint32_t mode;    ///< level of functionality \values{RadioFunctionality}
