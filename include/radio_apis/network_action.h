@@ -98,7 +98,8 @@ struct RadioNetworkActionState {
 
 extern "C" {
 
-/// Sends an instruction of the device's network optimisation, a network action. The modem reports its outcome with RADIO_EVENT_NETWORK_ACTION_RESULT_IND.
+/// Sends an instruction of the device's network optimisation, a network action. The modem reports its outcome with
+/// RADIO_EVENT_NETWORK_ACTION_RESULT_IND.
 ///
 /// @param action  the action and the cells that it aims at
 /// \verdict
