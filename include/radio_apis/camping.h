@@ -73,7 +73,7 @@ struct RadioLockCellInfoType {
 };
 static_assert(sizeof(RadioLockCellInfoType) == 20);
 
-/// The technologies in which cells are barred between which the modem goes to and fro.
+/// The technologies in which cells are barred when the modem keeps moving between them.
 enum RadioPingpongBarring : int32_t {
     RADIO_PINGPONG_BARRING_NONE = 0, ///< barring of no cells
     RADIO_PINGPONG_BARRING_LTE = 1,  ///< barring of cells of \label{LTE}
@@ -155,7 +155,7 @@ RADIO_API int radioUnlockCellAndBand(int option, void* userData, RadioRequestCal
 /// \sent
 RADIO_API int radioEnableCellBarring(unsigned char value, void* userData, RadioRequestCallback callback);
 
-/// Sets whether cells are barred between which the modem goes to and fro.
+/// Sets whether cells are barred when the modem keeps moving between them.
 ///
 /// @param type     technologies whose cells are barred \values{RadioPingpongBarring}
 /// @param barTime  how long a cell is barred, as the modem counts it; not sent when no cells are barred

@@ -9,6 +9,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <cstdlib>
@@ -89,12 +90,12 @@ private:
         if (code != 0 || text == nullptr) {
             return code == 0 ? "" : fmt::format("result {}", code);
         }
-        std::string line;
-        for (const char* at = text; *at != '\0'; ++at) {
-            const bool isVisible = *at > ' ' && *at <= '~';
-            const bool separates = !line.empty() && line.back() != ' ';
-            line += isVisible ? std::string(1, *at) : separates ? " " : "";
-        }
+        std::string line(text);
+        std::ranges::replace_if(
+            line, [](unsigned char c) { return c < ' ' || c > '~'; }, ' ');
+        const auto doubled = std::ranges::unique(line, [](char a, char b) { return a == ' ' && b == ' '; });
+        line.erase(doubled.begin(), doubled.end());
+        line.erase(0, line.starts_with(' ') ? 1 : 0);
         line.resize(line.find_last_not_of(' ') + 1);
         return line;
     }

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <charconv>
 #include <fstream>
 
 namespace radioctl {
@@ -48,35 +47,24 @@ Json membersFrom(const std::string& name, std::span<const std::string> words)
     return members;
 }
 
-int64_t numberFrom(const std::string& option, const std::string& word)
-{
-    int64_t number = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc() || end != word.data() + word.size()) {
-        throw UsageError(fmt::format("{}: '{}' is not a number", option, word));
-    }
-    return number;
-}
-
-/// `indicate NAME [FIELD=VALUE...]`; --value V is short for an indication that has one value, --times N repeats it.
+/// What stands behind `indicate`: --value V is short for an indication that has one value, --times N repeats it.
 Json parseIndicate(std::span<const std::string> words)
 {
-    constexpr std::string_view kOptions[] = {"--value", "--times", "--slot"};
-    if (words.empty()) {
+    CLI::App app;
+    Json command = {{"command", "indicate"}, {"message", ""}, {"slot", 0}};
+    for (const char* name : {"value", "times", "slot"}) {
+        const auto keep = [&command, name](int64_t number) { command[name] = number; };
+        app.add_option_function<int64_t>(fmt::format("--{}", name), keep);
+    }
+    app.allow_extras();
+    parseCommandOptions(app, {words.begin(), words.end()});
+    Words fields = app.remaining();
+    if (fields.empty()) {
         throw UsageError("sim indicate wants an indication's name");
     }
-    Json command = {{"command", "indicate"}, {"message", words.front()}, {"slot", 0}};
-    Words fields;
-    for (size_t i = 1; i < words.size(); ++i) {
-        if (std::ranges::find(kOptions, words[i]) == std::end(kOptions)) {
-            fields.push_back(words[i]);
-        } else if (++i < words.size()) {
-            command[words[i - 1].substr(2)] = numberFrom(words[i - 1], words[i]);
-        } else {
-            throw UsageError(fmt::format("{} wants a number", words.back()));
-        }
-    }
-    refuseUnknownOptions(fields, kOptions);
+    command["message"] = fields.front();
+    fields.erase(fields.begin());
+    refuseUnknownOptions(fields, std::vector<std::string_view>{"--value", "--times", "--slot"});
     if (!fields.empty()) {
         command["fields"] = membersFrom("fields", fields);
     }
@@ -98,7 +86,7 @@ Json parseCommand(std::span<const std::string> words)
     const std::string name = words.front();
     const auto rest = words.subspan(1);
     if (name == "indicate") {
-        return parseIndicate(rest);
+        return parseIndicate(words);
     }
     if (name == "load" && rest.size() == 1) {
         return {{"command", name}, {"scenario", readJson(rest.front())}};
