@@ -43,13 +43,12 @@ TEST(Vorn, opensWhatTheDeviceNameStandsFor)
 
 TEST(Vorn, answersAreObservedRightBeforeTheirCallbacks)
 {
-    struct Round {
+    struct Round : Inbox<size_t> {
         size_t observed = 0; ///< by the delivery thread alone, until the observer is gone
-        Inbox<size_t> answers;
     };
     const auto observe = [](const vorn_msg_t*, void* user) { ++static_cast<Round*>(user)->observed; };
     const auto onAnswer = [](vorn_msg_t*, void* user) {
-        static_cast<Round*>(user)->answers.add(static_cast<Round*>(user)->observed);
+        static_cast<Round*>(user)->add(static_cast<Round*>(user)->observed);
     };
     SETCOM("embedded");
     ASSERT_EQ(vorn_init_debug("test"), 0);
@@ -60,10 +59,10 @@ TEST(Vorn, answersAreObservedRightBeforeTheirCallbacks)
         for (int n = 0; n < 3; ++n) {
             EXPECT_EQ(vorn_msg_async_api(request, onAnswer, 0, &round), 0);
         }
-        EXPECT_EQ(round.answers.waitFor(1).front(), 1U);
+        EXPECT_EQ(round.waitFor(1).front(), 1U);
         vorn_host_observe(nullptr, nullptr);
         const size_t observed = round.observed;
-        EXPECT_EQ(round.answers.waitFor(3).back(), observed);
+        EXPECT_EQ(round.waitFor(3).back(), observed);
     }
     vorn_msg_deinit(request);
     vorn_deinit();
