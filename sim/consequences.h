@@ -1,9 +1,9 @@
 /// What the modem tells by itself once it has answered a request.
 #pragma once
 
-#include "requests.h"
 #include "indication.h"
 #include "periodic_reports.h"
+#include "requests.h"
 
 #include <optional>
 #include <vector>

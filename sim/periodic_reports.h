@@ -1,8 +1,8 @@
 /// Indications that the modem repeats until it is told to stop.
 #pragma once
 
-#include "requests.h"
 #include "indication.h"
+#include "requests.h"
 
 #include <chrono>
 #include <optional>
