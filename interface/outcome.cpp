@@ -13,11 +13,13 @@ namespace {
 
 /// Shared by the caller, who may give up waiting, and the callback, which comes all the same.
 struct Pending {
+    Pending(const Request& sent, Said asked) : request(sent), said(asked) {}
+
     const Request& request;
     const Said said;
-    std::mutex mutex = {};
-    std::condition_variable answered = {};
-    std::optional<Outcome> outcome = {};
+    std::mutex mutex;
+    std::condition_variable answered;
+    std::optional<Outcome> outcome;
 };
 
 void onAnswer(void* userData, RADIO_APIS_RESULT result, RadioApisResultType* record)

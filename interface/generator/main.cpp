@@ -1,11 +1,14 @@
 /// interface-generator JSON: prints radio_apis.json as C++: constant tables, and a call for each request.
 #include <nlohmann/json.hpp>
 
-#include <cstdio>
+#include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <sstream>
 #include <string>
+#include <vector>
 
 using Json = nlohmann::ordered_json;
 
@@ -31,15 +34,30 @@ bool isRecord(const Json& described, const char* key)
     return typeOf(described[key]) == "Type::Record";
 }
 
-/// What stands around a list in braces.
-template <typename Items, typename Write>
-std::string listed(const Items& items, Write write)
+/// Values in braces.
+std::string braced(const std::vector<std::string>& values)
 {
-    std::string text;
-    for (const Json& item : items) {
-        text += (text.empty() ? "" : ", ") + std::string(write(item));
+    std::ostringstream text;
+    const char* separator = "{";
+    for (const std::string& value : values) {
+        text << separator << value;
+        separator = ", ";
     }
-    return "{" + text + "}";
+    text << (values.empty() ? "{}" : "}");
+    return text.str();
+}
+
+template <typename Write>
+std::string listed(const Json& items, Write write)
+{
+    std::vector<std::string> values;
+    std::transform(items.begin(), items.end(), std::back_inserter(values), write);
+    return braced(values);
+}
+
+std::string flag(const Json& described, const char* name)
+{
+    return described.value(name, false) ? "true" : "false";
 }
 
 class Generator {
@@ -83,7 +101,7 @@ private:
     std::string values(const std::string& name, const Json& rows)
     {
         return table("Value", name, rows, [](const Json& value) {
-            return "{" + quoted(value["name"]) + ", " + value["value"].dump() + "}";
+            return braced({quoted(value["name"]), value["value"].dump()});
         });
     }
 
@@ -94,21 +112,19 @@ private:
             values("values_" + owner + "_" + name, described.value("values", Json::array()));
         std::string range = "{}";
         if (described.contains("range")) {
-            range = "Range{" + described["range"][0].dump() + ", " + described["range"][1].dump() + ", " +
-                    std::to_string(described.value("multipleOf", 1)) + "}";
+            const Json& bounds = described["range"];
+            range = "Range" + braced({bounds[0].dump(), bounds[1].dump(),
+                                      std::to_string(described.value("multipleOf", 1))});
         }
-        std::string text = "{" + quoted(name) + ", " + quoted(described["text"]) + ", " +
-                           quoted(described.value("unit", "")) + ", " + valuesName + ", " + range;
-        for (const char* flag : {"signed", "failure", "private", "unused"}) {
-            text += described.value(flag, false) ? ", true" : ", false";
-        }
-        return text + "}";
+        return braced({quoted(name), quoted(described["text"]), quoted(described.value("unit", "")),
+                       valuesName, range, flag(described, "signed"), flag(described, "failure"),
+                       flag(described, "private"), flag(described, "unused")});
     }
 
     void domains()
     {
         table("Domain", "domainsTable", mInterface["domains"], [](const Json& domain) {
-            return "{" + quoted(domain["name"]) + ", " + quoted(domain["title"]) + "}";
+            return braced({quoted(domain["name"]), quoted(domain["title"])});
         });
     }
 
@@ -126,6 +142,11 @@ private:
 
     std::string record(const std::string& name) const { return place("recordsTable", "records", name); }
 
+    std::string recordOf(const Json& described, const char* key) const
+    {
+        return isRecord(described, key) ? record(described[key]) : "nullptr";
+    }
+
     void records()
     {
         const Json& records = mInterface["records"];
@@ -139,12 +160,12 @@ private:
                 const std::string field = member.value("constant", member["name"].get<std::string>());
                 mOut << "static_assert(offsetof(" << name << ", " << field << ") == " << member["offset"]
                      << ");\n";
-                rows += "    {" + meaning(name, member) + ", " + typeOf(member["type"]) + ", " +
-                        (isRecord(member, "type") ? this->record(member["type"]) : "nullptr") + ", " +
-                        member["offset"].dump() + ", " +
-                        listed(member.value("array", Json::array()), [](const Json& n) { return n.dump(); }) +
-                        ", " + countedBy(name, members, member) + ", " +
-                        (member.contains("counts") ? "true" : "false") + "},\n";
+                const Json lengths = member.value("array", Json::array());
+                rows +=
+                    braced({meaning(name, member), typeOf(member["type"]), recordOf(member, "type"),
+                            member["offset"].dump(), listed(lengths, [](const Json& n) { return n.dump(); }),
+                            countedBy(name, members, member), member.contains("counts") ? "true" : "false"}) +
+                    ",\n";
             }
             mOut << "extern const Member members_" << name << "[" << members.size() << "];\n"
                  << "constexpr Member members_" << name << "[] = {\n"
@@ -153,8 +174,8 @@ private:
         mOut << "constexpr Record recordsTable[] = {\n";
         for (const Json& record : records) {
             const std::string name = record["name"];
-            mOut << "    {" << quoted(name) << ", " << quoted(record["text"]) << ", " << record["size"]
-                 << ", members_" << name << "},\n";
+            mOut << braced({quoted(name), quoted(record["text"]), record["size"].dump(), "members_" + name})
+                 << ",\n";
         }
         mOut << "};\n\n";
     }
@@ -172,8 +193,8 @@ private:
     void events()
     {
         table("Event", "eventsTable", mInterface["events"], [&](const Json& event) {
-            return "\n    {" + quoted(event["name"]) + ", " + event["constant"].get<std::string>() + ", " +
-                   quoted(event["text"]) + ", " + record(event["record"]) + "}";
+            return braced(
+                {quoted(event["name"]), event["constant"], quoted(event["text"]), record(event["record"])});
         });
         mOut << '\n';
     }
@@ -215,9 +236,9 @@ private:
             for (const Json& argument : function["arguments"]) {
                 if (argument.contains("form") && !argument.contains("counts")) {
                     names.push_back(argument["name"]);
-                    arguments += "    {" + meaning(name, argument) + ", " + form(argument) + ", " +
-                                 typeOf(argument["of"]) + ", " +
-                                 (isRecord(argument, "of") ? record(argument["of"]) : "nullptr") + "},\n";
+                    arguments += braced({meaning(name, argument), form(argument), typeOf(argument["of"]),
+                                         recordOf(argument, "of")}) +
+                                 ",\n";
                 }
             }
             std::string values;
@@ -230,13 +251,13 @@ private:
             mOut << "int call_" << name
                  << "([[maybe_unused]] Arguments& in, void* user, RadioRequestCallback cb)\n{\n"
                  << "    return " << name << "(" << values << "user, cb);\n}\n";
-            rows += "    {" + quoted(function["request"]) + ", " + quoted(name) + ", " +
-                    place("domainsTable", "domains", function["domain"]) + ", " + quoted(function["text"]) +
-                    ", " + quoted(function.value("details", "")) + ", " +
-                    quoted(function.value("returns", "")) + ", " +
-                    (arguments.empty() ? "{}" : "arguments_" + name) + ", " +
-                    (function.contains("answer") ? record(function["answer"]["record"]) : "nullptr") + ", " +
-                    (function.value("unsupported", false) ? "false" : "true") + ", call_" + name + "},\n";
+            rows += braced({quoted(function["request"]), quoted(name),
+                            place("domainsTable", "domains", function["domain"]), quoted(function["text"]),
+                            quoted(function.value("details", "")), quoted(function.value("returns", "")),
+                            arguments.empty() ? "{}" : "arguments_" + name,
+                            function.contains("answer") ? record(function["answer"]["record"]) : "nullptr",
+                            function.value("unsupported", false) ? "false" : "true", "call_" + name}) +
+                    ",\n";
         }
         mOut << "constexpr Request requestsTable[] = {\n" << rows << "};\n\n";
     }

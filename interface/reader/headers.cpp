@@ -286,13 +286,13 @@ private:
     std::string domainOf(CXCursor function)
     {
         const std::string path = fileOf(function);
-        const std::string name = fs::path(path).stem();
+        std::string name = fs::path(path).stem();
         if (!mSeenHeaders.insert(name).second) {
             return mDomainNames.contains(name) ? name : "";
         }
         Json domain = {{"name", name}, {"title", ""}};
         domain["title"] = domainTitle(path, domain);
-        if (domain["title"] == "") {
+        if (domain["title"].get_ref<const std::string&>().empty()) {
             return "";
         }
         mDomainNames.insert(name);

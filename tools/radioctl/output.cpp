@@ -15,6 +15,11 @@ void addRecord(Json& out, const Json& record, const interface::Record* descripti
     }
 }
 
+std::string textOf(const interface::Request& request, const Outcome& outcome, const Options& options)
+{
+    return outcome.record.is_null() ? "ok\n" : interface::asText(outcome.record, request.answer, options.raw);
+}
+
 int printOutcome(const interface::Request& request, const Outcome& outcome, const Options& options,
                  Json front)
 {
@@ -30,9 +35,7 @@ int printOutcome(const interface::Request& request, const Outcome& outcome, cons
         addRecord(front, outcome.record, request.answer, options);
         fmt::print("{}\n", front.dump());
     } else if (outcome.succeeded()) {
-        fmt::print("{}", outcome.record.is_null()
-                             ? "ok\n"
-                             : interface::asText(outcome.record, request.answer, options.raw));
+        fmt::print("{}", textOf(request, outcome, options));
     } else {
         std::fflush(stdout);
         fmt::print(stderr, "radioctl: {}: {}\n", request.name, outcome.reason());

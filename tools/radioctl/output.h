@@ -7,6 +7,9 @@
 
 namespace radioctl {
 
+/// What a success answers, for people.
+std::string textOf(const interface::Request& request, const Outcome& outcome, const Options& options);
+
 /// Prints an outcome, an answer to standard output and a failure to standard error, or all as one JSON object, which
 /// begins with `front`. Returns the exit status.
 int printOutcome(const interface::Request& request, const Outcome& outcome, const Options& options,

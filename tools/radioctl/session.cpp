@@ -93,8 +93,8 @@ private:
         std::string line(text);
         std::ranges::replace_if(
             line, [](unsigned char c) { return c < ' ' || c > '~'; }, ' ');
-        const auto doubled = std::ranges::unique(line, [](char a, char b) { return a == ' ' && b == ' '; });
-        line.erase(doubled.begin(), doubled.end());
+        const auto areBlanks = [](char a, char b) { return a == ' ' && b == ' '; };
+        line.erase(std::unique(line.begin(), line.end(), areBlanks), line.end());
         line.erase(0, line.starts_with(' ') ? 1 : 0);
         line.resize(line.find_last_not_of(' ') + 1);
         return line;
@@ -125,7 +125,8 @@ void prepareEnvironment(const Options& options)
 void open(unsigned instance)
 {
     std::string reason;
-    const bool isLogged = std::string_view(std::getenv("RADIO_LOG")) != "off";
+    const char* level = std::getenv("RADIO_LOG");
+    const bool isLogged = level != nullptr && std::string_view(level) != "off";
     if (!isLogged) {
         host::setLogSink([&](const host::LogLine& line) {
             constexpr int kError = 6;

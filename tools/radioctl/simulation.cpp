@@ -83,7 +83,7 @@ Json readJson(const std::string& file)
 
 Json parseCommand(std::span<const std::string> words)
 {
-    const std::string name = words.front();
+    const std::string& name = words.front();
     const auto rest = words.subspan(1);
     if (name == "indicate") {
         return parseIndicate(words);

@@ -1,4 +1,5 @@
 // One request again and again.
+#include "interface/cells.h"
 #include "interface/rows.h"
 #include "radioctl/output.h"
 #include "radioctl/program.h"
@@ -7,13 +8,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstring>
-#include <deque>
 #include <fstream>
-#include <map>
-#include <tuple>
 #include <unistd.h>
 
 namespace radioctl {
@@ -44,85 +41,6 @@ void addWatchOptions(CLI::App& app, WatchOptions& options)
 constexpr std::string_view kHome = "\033[H";
 constexpr std::string_view kEraseBelow = "\033[J";
 constexpr std::string_view kEraseLine = "\033[K";
-
-/// What phones show: four bars from an RSRP of -85 dBm, none below -115 dBm.
-std::string bars(int rsrp)
-{
-    constexpr std::array<std::pair<int, const char*>, 4> kLevels = {
-        {{-85, "▂▄▆█"}, {-95, "▂▄▆ "}, {-105, "▂▄  "}, {-115, "▂   "}}};
-    const auto* level = std::ranges::find_if(kLevels, [=](const auto& known) { return rsrp >= known.first; });
-    return level != kLevels.end() ? level->second : "    ";
-}
-
-/// The signals of each cell over time.
-class History {
-public:
-    /// Adds a cell's signal and returns the line of its last ones.
-    std::string add(const Json& cell)
-    {
-        auto& signals =
-            mSignals[{cell.value("rat", 0), cell.value("arfcn", int64_t{0}), cell.value("pci", int64_t{0})}];
-        signals.push_back(cell.value("rsrp", 0));
-        if (signals.size() > kMost) {
-            signals.pop_front();
-        }
-        std::string line;
-        for (const int rsrp : signals) {
-            line += mark(rsrp);
-        }
-        return line;
-    }
-
-private:
-    static constexpr size_t kMost = 40;
-
-    /// A step for every 6 dB from -120 dBm on.
-    static const char* mark(int rsrp)
-    {
-        constexpr std::array<const char*, 8> kMarks = {"▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
-        return kMarks[static_cast<size_t>(std::clamp((rsrp + 120) / 6, 0, 7))];
-    }
-
-    std::map<std::tuple<int, int64_t, int64_t>, std::deque<int>> mSignals;
-};
-
-/// The cells of an answer: the serving one and its neighbours, by the names under which they stand.
-struct Cells {
-    const Json* serving = nullptr;
-    const Json* neighbours = nullptr;
-
-    explicit Cells(const Json& record)
-    {
-        const bool isCell = record.is_object() && record.contains("rsrp");
-        serving = isCell                                             ? &record
-                  : record.is_object() && record.contains("serving") ? &record["serving"]
-                                                                     : nullptr;
-        neighbours = record.is_object() && record.contains("neighbours") ? &record["neighbours"] : nullptr;
-    }
-};
-
-std::string cellLine(std::string_view which, const Json& cell, History& history)
-{
-    const auto number = [&](const char* name) { return cell.value(name, int64_t{0}); };
-    const auto rsrp = static_cast<int>(number("rsrp"));
-    const int64_t rat = number("rat");
-    const std::string name = rat == RADIO_RAT_LTE ? "LTE" : rat == RADIO_RAT_NR ? "NR" : std::to_string(rat);
-    return fmt::format("{:<10}{:>4}{:>6}{:>9}{:>6}{:>7}{:>6}{:>6}  {}  {}\n", which, name, number("band"),
-                       number("arfcn"), number("pci"), rsrp, number("rsrq"), number("sinr"), bars(rsrp),
-                       history.add(cell));
-}
-
-std::string cellsAsTable(const Cells& cells, History& history)
-{
-    std::string text = fmt::format("{:<10}{:>4}{:>6}{:>9}{:>6}{:>7}{:>6}{:>6}\n", "", "RAT", "band", "ARFCN",
-                                   "PCI", "RSRP", "RSRQ", "SINR");
-    text += cells.serving->value("rat", 0) != 0 ? cellLine("serving", *cells.serving, history)
-                                                : "no serving cell\n";
-    for (size_t i = 0; cells.neighbours != nullptr && i < cells.neighbours->size(); ++i) {
-        text += cellLine("neighbour", (*cells.neighbours)[i], history);
-    }
-    return text;
-}
 
 void show(const std::string& text)
 {
@@ -192,21 +110,18 @@ int runWatch(Program& program, const Line& line)
     }
     holdSignals();
     program.session(line.options);
-    History history;
+    interface::CellTable cells;
     Clock::time_point next = Clock::now();
     for (uint64_t answers = 1;; ++answers) {
         const Outcome outcome = program.send(request, call.arguments, line.options);
-        const Cells cells(outcome.record);
         if (line.options.json || !outcome.succeeded()) {
             const int status = printOutcome(request, outcome, line.options, {{"time", now()}});
             if (status != kExitSuccess) {
                 return status;
             }
-        } else if (cells.serving != nullptr && !line.options.raw) {
-            show(cellsAsTable(cells, history));
         } else {
-            show(outcome.record.is_null() ? "ok\n"
-                                          : asText(outcome.record, request.answer, line.options.raw));
+            const auto table = line.options.raw ? std::nullopt : cells.of(outcome.record);
+            show(table ? *table : textOf(request, outcome, line.options));
         }
         std::fflush(stdout);
         if (log && outcome.record.is_object()) {
