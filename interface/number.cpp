@@ -205,17 +205,25 @@ Meaning elementOf(Meaning list)
 
 std::string numberForm(const Meaning& meaning, Type type)
 {
-    const auto names = valueWords(meaning, type);
+    if (type == Type::Bool) {
+        return "on, off";
+    }
     const Limits limits = limitsOf(meaning, type);
     const std::string unit = meaning.unit.empty() ? "" : fmt::format(" {}", meaning.unit);
     const std::string range = fmt::format("{} to {}{}", limits.lowest.text(), limits.highest.text(), unit);
+    if (meaning.values.empty()) {
+        return range;
+    }
+    std::vector<std::string> names;
+    std::ranges::transform(meaning.values, std::back_inserter(names), [](const Value& value) {
+        return fmt::format("{} ({})", wordOf(value), value.value);
+    });
     // A range whose every number has a name goes without saying.
-    const bool isNamed =
-        type == Type::Bool || (meaning.range && limits.highest.bits - limits.lowest.bits + 1 == names.size());
-    return names.empty()   ? range
-           : isNamed       ? fmt::format("{}", fmt::join(names, ", "))
-           : meaning.range ? fmt::format("{} or a number from {}", fmt::join(names, ", "), range)
-                           : fmt::format("{} or a number", fmt::join(names, ", "));
+    const bool isNamed = meaning.range && limits.highest.bits - limits.lowest.bits + 1 == names.size();
+    return fmt::format("{}{}", fmt::join(names, ", "),
+                       isNamed         ? ""
+                       : meaning.range ? fmt::format(" or a number from {}", range)
+                                       : " or a number");
 }
 
 std::string countForm(const Range& range)

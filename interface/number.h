@@ -18,7 +18,7 @@ uint64_t parseNumber(const std::string& where, const Meaning& meaning, Type type
 /// What the elements of a list mean: its bounds are those of its length.
 Meaning elementOf(Meaning list);
 
-/// "0 to 255", "lte, nr or a number", with the unit.
+/// "0 to 255", "lte (4), nr (5) or a number", with the unit.
 std::string numberForm(const Meaning& meaning, Type type);
 
 /// "at most 20", "1 to 2048".

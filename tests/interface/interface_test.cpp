@@ -150,7 +150,7 @@ TEST(Interface, RefusesWhatDoesNotFit)
         {"set-ca-status", {{"rat", "LTE"}, {"enable", 2}}, "enable: '2' is none of on, off"},
         {"set-ca-status",
          {{"rat", "lty"}, {"enable", true}},
-         "rat: 'lty' is none of lte, nr or a number - did you mean 'lte'?"},
+         "rat: 'lty' is none of lte (4), nr (5) or a number - did you mean 'lte'?"},
         {"write-nv",
          {{"id", 1}, {"index", 0}, {"data", "@/etc/passwd"}},
          "data: '@/etc/passwd' is not pairs of"},
