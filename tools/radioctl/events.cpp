@@ -8,7 +8,6 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <atomic>
 #include <mutex>
 
 namespace radioctl {
@@ -54,19 +53,6 @@ struct Stream {
         std::fflush(stdout);
     }
 };
-
-/// For the link's changes, which come without user data.
-std::atomic<Stream*> current{nullptr};
-
-void onLink(bool isUp)
-{
-    Stream* stream = current;
-    if (stream == nullptr) {
-        return;
-    }
-    const std::lock_guard lock(stream->mutex);
-    stream->print(isUp ? "link-back" : "link-lost", nullptr, nullptr);
-}
 
 void onEvent(RADIO_EVENT_TYPE type, void* user, void* data, int length)
 {
@@ -148,8 +134,10 @@ int runEvents(Program& program, const Line& line)
     for (const interface::Event* event : events) {
         registerRadioEvent(event->type, &stream, onEvent);
     }
-    current = &stream;
-    onLinkChange(onLink);
+    onLinkChange([&](bool isUp) {
+        const std::lock_guard lock(stream.mutex);
+        stream.print(isUp ? "link-back" : "link-lost", nullptr, nullptr);
+    });
     int status = kExitFailure;
     if (subscribe()) {
         fmt::print(stderr, "radioctl: listening for {}; Ctrl-C ends\n",

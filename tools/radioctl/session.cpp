@@ -10,10 +10,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
-#include <atomic>
 #include <condition_variable>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <mutex>
 
 namespace radioctl {
@@ -27,7 +27,7 @@ struct LinkState {
     bool isUp = true;
     unsigned losses = 0;
     unsigned lossesWanted = 0;
-    std::atomic<void (*)(bool)> listener{nullptr};
+    std::function<void(bool isUp)> listener; ///< called with the mutex held
 
     static LinkState& instance()
     {
@@ -39,16 +39,14 @@ struct LinkState {
     {
         auto& link = *static_cast<LinkState*>(user);
         const bool isUp = state == RAPIS_CONNECTED;
-        {
-            const std::lock_guard lock(link.mutex);
-            if (std::exchange(link.isUp, isUp) == isUp) {
-                return;
-            }
-            link.losses += isUp ? 0 : 1;
-            link.changed.notify_all();
+        const std::lock_guard lock(link.mutex);
+        if (std::exchange(link.isUp, isUp) == isUp) {
+            return;
         }
-        if (void (*listener)(bool) = link.listener) {
-            listener(isUp);
+        link.losses += isUp ? 0 : 1;
+        link.changed.notify_all();
+        if (link.listener) {
+            link.listener(isUp);
         }
     }
 };
@@ -214,9 +212,11 @@ bool Session::awaitLink(std::chrono::milliseconds atMost)
     return link.changed.wait_for(lock, atMost, [&] { return link.isUp && link.losses >= link.lossesWanted; });
 }
 
-void onLinkChange(void (*changed)(bool isUp))
+void onLinkChange(std::function<void(bool isUp)> changed)
 {
-    LinkState::instance().listener = changed;
+    LinkState& link = LinkState::instance();
+    const std::lock_guard lock(link.mutex);
+    link.listener = std::move(changed);
 }
 
 } // namespace radioctl

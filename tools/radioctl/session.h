@@ -4,6 +4,8 @@
 #include "interface/outcome.h"
 #include "radioctl/options.h"
 
+#include <functional>
+
 namespace radioctl {
 
 using interface::Outcome;
@@ -42,7 +44,8 @@ private:
     unsigned mInstance;
 };
 
-/// Calls `changed` whenever the link is lost or back, for the rest of the process's life; null ends that.
-void onLinkChange(void (*changed)(bool isUp));
+/// Calls `changed` whenever the link is lost or back, on a thread of the platform's; nothing ends that, and then no call is
+/// under way any more. It must not wait for the link.
+void onLinkChange(std::function<void(bool isUp)> changed);
 
 } // namespace radioctl
