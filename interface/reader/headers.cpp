@@ -546,7 +546,10 @@ private:
             const std::string name = nameOf(cursor);
             const CXType type = clang_getCursorType(cursor);
             const auto text = comment.parameters.find(name);
-            Json argument = {{"name", name}};
+            Json argument = {{"name", name.empty() ? "unused" : name}};
+            if (name.empty()) {
+                argument["unused"] = true;
+            }
             if (text != comment.parameters.end()) {
                 describe(argument, cursor, text->second);
             } else if (fs::path(fileOf(function)).stem() != "converters") { // there the header's head tells
