@@ -129,7 +129,7 @@ size_t sizeOf(Type type)
 
 Json loadNumber(const Meaning& meaning, Type type, const uint8_t* data)
 {
-    const auto load = [&]<typename T>(T value) -> Json {
+    const auto load = [&](auto value) -> Json {
         std::memcpy(&value, data, sizeof value);
         return value;
     };
@@ -210,7 +210,7 @@ std::string numberForm(const Meaning& meaning, Type type)
     }
     const Limits limits = limitsOf(meaning, type);
     const std::string unit = meaning.unit.empty() ? "" : fmt::format(" {}", meaning.unit);
-    const std::string range = fmt::format("{} to {}{}", limits.lowest.text(), limits.highest.text(), unit);
+    std::string range = fmt::format("{} to {}{}", limits.lowest.text(), limits.highest.text(), unit);
     if (meaning.values.empty()) {
         return range;
     }
