@@ -19,9 +19,9 @@ std::string bars(int rsrp)
 }
 
 /// A step for every 6 dB from -120 dBm on.
-const char* mark(int rsrp)
+std::string_view mark(int rsrp)
 {
-    constexpr std::array<const char*, 8> kMarks = {"▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
+    constexpr std::array<std::string_view, 8> kMarks = {"▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
     return kMarks[static_cast<size_t>(std::clamp((rsrp + 120) / 6, 0, 7))];
 }
 

@@ -159,7 +159,7 @@ Json loadNumber(const Meaning& meaning, Type type, const uint8_t* data)
 
 void storeNumber(Type type, uint64_t bits, uint8_t* data)
 {
-    const auto store = [&]<typename T>(T value) { std::memcpy(data, &value, sizeof value); };
+    const auto store = [&](auto value) { std::memcpy(data, &value, sizeof value); };
     switch (sizeOf(type)) {
     case 1:
         return store(static_cast<uint8_t>(bits));

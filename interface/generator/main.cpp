@@ -218,7 +218,7 @@ private:
         const std::string form = parameter["form"];
         std::string type = parameter[form.starts_with("record") ? "of" : "type"];
         if (form == "list") {
-            type = type.substr(0, type.find_last_not_of(" *") + 1);
+            type.resize(type.find_last_not_of(" *") + 1);
         }
         return "in." + form + (form == "text" ? "" : "<" + type + ">") + "(" + place + ")";
     }
